@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QMetaType>
+#include <QString>
+
+// Hosts store these values and pass numbers beyond the named ones, so every type is fixed and every value is kept.
+
+/// Kind of a form object, -1 while unset. Numbers above 12 name no kind.
+enum ObjType : int {
+    Obj_None = 0,
+    Obj_Line = 1,
+    Obj_Rect = 2,
+    Obj_Edit = 3,
+    Obj_FinancialEdit = 4,
+    Obj_SeperateEdit = 5,
+    Obj_CheckBox = 6,
+    Obj_Label = 7,
+    Obj_Combx = 8,
+    Obj_Datetime = 9,
+    Obj_Picture = 10,
+    Obj_Barcode = 11,
+    Obj_Table = 12
+};
+
+/// What an object paints and how it reacts: the form is laid out, filled in or put on paper. Others paint nothing.
+enum Paint_Mode : int { Paint_Design = 0, Paint_Input = 1, Paint_Print = 2 };
+
+/// Place of a resize handle, clockwise from the top-left corner; the corners are the even values up to 6.
+enum HandleDirect : int {
+    Handle_TopLeft = 0,
+    Handle_Top = 1,
+    Handle_TopRight = 2,
+    Handle_Right = 3,
+    Handle_BottomRight = 4,
+    Handle_Bottom = 5,
+    Handle_BottomLeft = 6,
+    Handle_Left = 7,
+    Handle_Center = 8, ///< painted as a round blue dot
+    Handle_None = 9    ///< answer of a hit test that met no visible handle
+};
+
+/// State of one resize handle: 0 hides, 1 and 2 show, others are stored without effect.
+enum SelectionHandleState : int { Handle_Off = 0, Handle_Inactive = 1, Handle_Active = 2 };
+
+/// State of the dashed selection frame: 0 hides, 1 and 2 show, others are stored without effect.
+enum SelectionDashRectState : int { DashRect_Off = 0, DashRect_Inactive = 1, DashRect_Active = 2 };
+
+/// How a text is fitted into its rectangle. Others give a default font and word wrap.
+enum Text_Filling_Rule : int {
+    Fill_Wrap = 0,       ///< font as set, wrapped
+    Fill_Shrink = 1,     ///< one line, shrunk to the width
+    Fill_WrapShrink = 2, ///< wrapped to the width, shrunk to the height
+    Fill_NoWrap = 3      ///< font as set, one line
+};
+
+/// What an edit object accepts and how it shows it. Others accept the empty text only and show nothing.
+enum Input_Format : int {
+    Format_Text = 0,
+    Format_Number = 1,
+    Format_RmbCapital = 2,
+    Format_RmbCapitalAlt = 3, ///< handled like Format_RmbCapital; the distinction is the host's
+    Format_RmbCapitalYuan = 4,
+    Format_UsdCapital = 5,
+    Format_RmbCapitalNoSuffix = 6,
+    Format_EnglishAmount = 7,
+    Format_SerialNumber = 8,
+    Format_FreeText = 9,
+    Format_Customized = 10
+};
+
+/// Names the database column that an object is bound to. The library stores it and opens no database.
+struct _Database_Table_Col
+{
+    QString table;
+    QString column;
+};
+
+Q_DECLARE_METATYPE(ObjType)
+Q_DECLARE_METATYPE(Paint_Mode)
+Q_DECLARE_METATYPE(Text_Filling_Rule)

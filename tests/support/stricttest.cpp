@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: MIT
+#include "tests/support/stricttest.h"
+
+#include <QTest>
+
+namespace {
+
+// One test object runs at a time in a test program, so what it collects can stand here.
+QtMessageHandler previousHandler = nullptr;
+QVector<QRegularExpression> expectedWarnings;
+QStringList unexpectedWarnings;
+
+// Written by the offscreen platform whenever a window has a size hint.
+bool belongsToPlatform(const QString &text)
+{
+    return text == QLatin1String("This plugin does not support propagateSizeHints()");
+}
+
+} // namespace
+
+void StrictTest::handleMessage(QtMsgType type, const QMessageLogContext &context, const QString &text)
+{
+    if (type == QtWarningMsg || type == QtCriticalMsg) {
+        if (belongsToPlatform(text))
+            return;
+        for (int i = 0; i < expectedWarnings.size(); ++i) {
+            if (expectedWarnings.at(i).match(text).hasMatch()) {
+                expectedWarnings.removeAt(i);
+                return;
+            }
+        }
+        unexpectedWarnings.append(text);
+    }
+    previousHandler(type, context, text);
+}
+
+void StrictTest::expectWarning(const QString &pattern)
+{
+    expectedWarnings.append(QRegularExpression(pattern));
+}
+
+void StrictTest::init()
+{
+    expectedWarnings.clear();
+    unexpectedWarnings.clear();
+    previousHandler = qInstallMessageHandler(handleMessage);
+}
+
+void StrictTest::cleanup()
+{
+    qInstallMessageHandler(previousHandler);
+    QVERIFY2(unexpectedWarnings.isEmpty(), qPrintable(unexpectedWarnings.join(QLatin1Char('\n'))));
+    QVERIFY2(expectedWarnings.isEmpty(), "an announced warning did not come");
+}
