@@ -19,13 +19,17 @@ endfunction()
 #   HEADERS   installed headers without a source
 #   PUBLIC    classes of the interface; their headers are installed
 #   INTERNAL  classes that no host sees
+#   SOURCES   further sources of a class whose definitions fill more than one file
 function(tavro_floor floor)
-    cmake_parse_arguments(arg "" "" "PURE;HEADERS;PUBLIC;INTERNAL" ${ARGN})
+    cmake_parse_arguments(arg "" "" "PURE;HEADERS;PUBLIC;INTERNAL;SOURCES" ${ARGN})
     foreach(name IN LISTS arg_PURE)
         target_sources(tavro_pure PRIVATE ${floor}/${name}.cpp ${floor}/${name}.h)
     endforeach()
     foreach(name IN LISTS arg_PUBLIC arg_INTERNAL)
         target_sources(tavro_items PRIVATE ${floor}/${name}.cpp ${floor}/${name}.h)
+    endforeach()
+    foreach(name IN LISTS arg_SOURCES)
+        target_sources(tavro_items PRIVATE ${floor}/${name}.cpp)
     endforeach()
     foreach(name IN LISTS arg_HEADERS arg_PUBLIC)
         set_property(GLOBAL APPEND PROPERTY TAVRO_PUBLIC_HEADERS ${floor}/${name}.h)

@@ -7,7 +7,10 @@
 class RecordingPaintEngine : public QPaintEngine
 {
 public:
-    RecordingPaintEngine() : QPaintEngine(QPaintEngine::AllFeatures) {}
+    RecordingPaintEngine()
+        : QPaintEngine(QPaintEngine::AllFeatures)
+    {
+    }
 
     bool begin(QPaintDevice *) override { return true; }
     bool end() override { return true; }
@@ -71,7 +74,11 @@ private:
     }
 };
 
-RecordingDevice::RecordingDevice(const QSize &size) : m_size(size), m_engine(new RecordingPaintEngine) {}
+RecordingDevice::RecordingDevice(const QSize &size)
+    : m_size(size)
+    , m_engine(new RecordingPaintEngine)
+{
+}
 
 RecordingDevice::~RecordingDevice()
 {

@@ -16,8 +16,8 @@ struct PaintCommand
     enum Kind { Rect, Line, Path, Polygon, Ellipse, Text, Image, Pixmap };
 
     Kind kind;
-    QRectF rect;      ///< geometry in logical coordinates (a line: start point and extent)
-    QString text;     ///< texts only
+    QRectF rect;  ///< geometry in logical coordinates (a line: start point and extent)
+    QString text; ///< texts only
     QPen pen;
     QBrush brush;
     QFont font;

@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+#include "core/controlfactory.h"
+
+#include "entry/tavroedit.h"
+#include "entry/tavrolabel.h"
+#include "graphic/tavroline.h"
+#include "graphic/tavrorect.h"
+
+TavroPrototype *ControlFactory::factory(ObjType kind)
+{
+    switch (kind) {
+    case Obj_Line:
+        return new TavroLine;
+    case Obj_Rect:
+        return new TavroRect;
+    case Obj_Edit:
+        return new TavroEdit;
+    case Obj_Label:
+        return new TavroLabel;
+    default:
+        return nullptr;
+    }
+}

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#include "core/stacking.h"
+
+#include <algorithm>
+#include <numeric>
+
+namespace stacking {
+
+QVector<qreal> restacked(const QVector<qreal> &zValues, int moved, Move move)
+{
+    // Members from the lowest to the topmost, as indexes into zValues.
+    QVector<int> order(zValues.size());
+    std::iota(order.begin(), order.end(), 0);
+    std::stable_sort(order.begin(), order.end(), [&](int a, int b) { return zValues.at(a) < zValues.at(b); });
+
+    const int last = order.size() - 1;
+    const int from = order.indexOf(moved);
+    int to = from;
+    switch (move) {
+    case Move::ToFront:
+        to = last;
+        break;
+    case Move::ToBack:
+        to = 0;
+        break;
+    case Move::Up:
+        to = std::min(from + 1, last);
+        break;
+    case Move::Down:
+        to = std::max(from - 1, 0);
+        break;
+    }
+
+    QVector<qreal> sorted(zValues);
+    std::sort(sorted.begin(), sorted.end());
+    order.move(from, to);
+    QVector<qreal> result(zValues.size());
+    for (int i = 0; i <= last; ++i)
+        result[order.at(i)] = sorted.at(i);
+    return result;
+}
+
+} // namespace stacking

@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+/// Font sizes between points and pixels. The scale is always the ratio of an object's pixel width to one of its
+/// physical widths in millimetres: no screen resolution is assumed anywhere. 25.4 mm and 72 points to the inch.
+namespace units {
+
+/// Whole pixels for a size in points, cut off towards zero. At least 1: sizes below one pixel, negative sizes, sizes
+/// that no int can hold and a physical width of 0 all give 1.
+int pixelSize(double points, double pixelWidth, double physicalWidth);
+
+/// Points for a size in pixels, neither rounded nor bounded: infinite or not a number where the pixel width is 0.
+double pointSize(int pixels, double pixelWidth, double physicalWidth);
+
+} // namespace units

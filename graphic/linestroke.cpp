@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: MIT
+#include "graphic/linestroke.h"
+
+#include <QPainterPathStroker>
+
+QPen LineStroke::pen() const
+{
+    QPen pen(QColor::fromRgba(color));
+    pen.setWidthF(widthPix);
+    pen.setStyle(style);
+    return pen;
+}
+
+QPainterPath LineStroke::pickArea(const QPainterPath &outline) const
+{
+    constexpr double pickMargin = 10;
+    QPainterPathStroker stroker;
+    stroker.setWidth(widthPix + pickMargin);
+    QPainterPath area = stroker.createStroke(outline);
+    area.setFillRule(Qt::WindingFill);
+    return area;
+}
