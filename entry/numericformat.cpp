@@ -1,0 +1,186 @@
+// SPDX-License-Identifier: MIT
+#include "entry/numericformat.h"
+
+#include <QStringView>
+#include <algorithm>
+#include <cmath>
+
+namespace numericformat {
+
+namespace {
+
+constexpr QLatin1Char Point('.');
+constexpr QLatin1Char Comma(',');
+constexpr QLatin1Char Minus('-');
+constexpr QLatin1Char Plus('+');
+constexpr QLatin1Char Nought('0');
+
+// No double has more decimals, so what a longer pattern asks for beyond them is zeros.
+constexpr qsizetype MaxDecimals = 1074;
+
+struct Pattern
+{
+    QStringView prefix;
+    QChar sign; ///< "-" or "+" at the start of the body, or null
+    QStringView integers;
+    QStringView decimals;
+    QStringView suffix;
+};
+
+struct Digits
+{
+    QString integers;
+    QString decimals;
+};
+
+bool isPlace(QChar character)
+{
+    return (character >= Nought && character <= QLatin1Char('9')) || character == QLatin1Char('#') ||
+           character == Plus || character == Minus;
+}
+
+qsizetype placesIn(QStringView pattern)
+{
+    return std::count_if(pattern.begin(), pattern.end(), isPlace);
+}
+
+Pattern parsed(QStringView pattern)
+{
+    Pattern result;
+    const auto first = std::find_if(pattern.begin(), pattern.end(), isPlace);
+    const auto last = std::find_if(pattern.rbegin(), pattern.rend(), isPlace).base();
+    const qsizetype start = first - pattern.begin();
+    const qsizetype end = std::max(start, qsizetype(last - pattern.begin()));
+    result.prefix = pattern.left(start);
+    result.suffix = pattern.mid(end);
+
+    QStringView body = pattern.mid(start, end - start);
+    if (body.startsWith(Minus) || body.startsWith(Plus)) {
+        result.sign = body.front();
+        body = body.mid(1);
+    }
+    const qsizetype point = body.indexOf(Point);
+    result.integers = point < 0 ? body : body.left(point);
+    result.decimals = point < 0 ? QStringView() : body.mid(point + 1);
+    return result;
+}
+
+bool isZero(const QString &digits)
+{
+    return std::all_of(digits.begin(), digits.end(), [](QChar digit) { return digit == Nought; });
+}
+
+qsizetype minimumDigits(QStringView integers)
+{
+    const qsizetype first = integers.indexOf(Nought);
+    const QStringView required = first < 0 ? QStringView() : integers.mid(first);
+    return placesIn(required) + std::count(required.begin(), required.end(), Comma);
+}
+
+qsizetype groupSize(QStringView integers)
+{
+    const qsizetype comma = integers.lastIndexOf(Comma);
+    return comma < 0 ? 0 : placesIn(integers.mid(comma + 1));
+}
+
+// The printed digits, without those that the pattern leaves out and with the noughts that it asks for.
+Digits digitsOf(double magnitude, const Pattern &pattern)
+{
+    const qsizetype decimals = std::clamp(placesIn(pattern.decimals), qsizetype(1), MaxDecimals);
+    const QString text = QString::number(magnitude, 'f', int(decimals));
+    const int point = text.indexOf(Point);
+    if (point < 0) // infinite or not a number
+        return {text, QString()};
+    Digits digits = {text.left(point), pattern.decimals.isEmpty() ? QString() : text.mid(point + 1)};
+    const qsizetype missing = minimumDigits(pattern.integers) - digits.integers.size();
+    if (missing > 0)
+        digits.integers.prepend(QString(int(missing), Nought));
+    return digits;
+}
+
+void append(QString &text, QStringView characters)
+{
+    text.append(characters.data(), int(characters.size()));
+}
+
+// Appends the next `count` digits and a comma wherever a whole number of groups is left behind one.
+void appendDigits(QString &text, QStringView &digits, qsizetype count, qsizetype group)
+{
+    for (; count > 0; --count) {
+        text.append(digits.front());
+        digits = digits.mid(1);
+        if (group > 0 && !digits.isEmpty() && digits.size() % group == 0)
+            text.append(Comma);
+    }
+}
+
+void appendIntegers(QString &text, QStringView pattern, QStringView digits)
+{
+    const qsizetype group = groupSize(pattern);
+    qsizetype places = placesIn(pattern);
+    for (const QChar character : pattern) {
+        if (isPlace(character)) {
+            // at the first place all that are too many, then one at each
+            --places;
+            appendDigits(text, digits, digits.size() - places, group);
+        } else if (character != Comma) {
+            text.append(character);
+        }
+    }
+    appendDigits(text, digits, digits.size(), group);
+}
+
+void appendDecimals(QString &text, QStringView pattern, QStringView digits)
+{
+    for (const QChar character : pattern) {
+        if (!isPlace(character)) {
+            text.append(character);
+        } else if (digits.isEmpty()) {
+            text.append(Nought);
+        } else {
+            text.append(digits.front());
+            digits = digits.mid(1);
+        }
+    }
+}
+
+void appendSign(QString &text, const Pattern &pattern, double value)
+{
+    if (value < 0)
+        text.append(Minus);
+    else if (value > 0 && pattern.sign == Plus)
+        text.append(Plus);
+}
+
+void appendNumber(QString &text, const Pattern &pattern, double value)
+{
+    const Digits digits = digitsOf(std::abs(value), pattern);
+    if (!isZero(digits.integers) || !isZero(digits.decimals))
+        appendSign(text, pattern, value);
+    if (!std::isfinite(value)) {
+        append(text, digits.integers);
+        return;
+    }
+    appendIntegers(text, pattern.integers, digits.integers);
+    if (!pattern.decimals.isEmpty()) {
+        text.append(Point);
+        appendDecimals(text, pattern.decimals, digits.decimals);
+    }
+}
+
+} // namespace
+
+QString format(const QString &pattern, double value)
+{
+    if (pattern.isEmpty())
+        return QString::number(value, 'g', 6);
+
+    const Pattern parts = parsed(pattern);
+    QString text;
+    append(text, parts.prefix);
+    appendNumber(text, parts, parts.sign == Minus ? 0 - value : value);
+    append(text, parts.suffix);
+    return text;
+}
+
+} // namespace numericformat
