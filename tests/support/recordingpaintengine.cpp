@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "tests/support/recordingpaintengine.h"
 
+#include <QPainterPath>
+
 #include <algorithm>
 #include <iterator>
 
