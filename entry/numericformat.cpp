@@ -27,12 +27,6 @@ struct Pattern
     QStringView suffix;
 };
 
-struct Digits
-{
-    QString integers;
-    QString decimals;
-};
-
 bool isPlace(QChar character)
 {
     return (character >= Nought && character <= QLatin1Char('9')) || character == QLatin1Char('#') ||
@@ -65,7 +59,7 @@ Pattern parsed(QStringView pattern)
     return result;
 }
 
-bool isZero(const QString &digits)
+bool isZero(QStringView digits)
 {
     return std::all_of(digits.begin(), digits.end(), [](QChar digit) { return digit == Nought; });
 }
@@ -83,18 +77,16 @@ qsizetype groupSize(QStringView integers)
     return comma < 0 ? 0 : placesIn(integers.mid(comma + 1));
 }
 
-// The printed digits, without those that the pattern leaves out and with the noughts that it asks for.
-Digits digitsOf(double magnitude, const Pattern &pattern)
+// The rounded digits around a point, with the noughts in front that the pattern asks for; without a point where the
+// value is infinite or not a number.
+QString writtenDigits(double magnitude, const Pattern &pattern)
 {
     const qsizetype decimals = std::clamp(placesIn(pattern.decimals), qsizetype(1), MaxDecimals);
-    const QString text = QString::number(magnitude, 'f', int(decimals));
-    const int point = text.indexOf(Point);
-    if (point < 0) // infinite or not a number
-        return {text, QString()};
-    Digits digits = {text.left(point), pattern.decimals.isEmpty() ? QString() : text.mid(point + 1)};
-    const qsizetype missing = minimumDigits(pattern.integers) - digits.integers.size();
+    QString digits = QString::number(magnitude, 'f', int(decimals));
+    const int integers = digits.indexOf(Point);
+    const qsizetype missing = integers < 0 ? 0 : minimumDigits(pattern.integers) - integers;
     if (missing > 0)
-        digits.integers.prepend(QString(int(missing), Nought));
+        digits.prepend(QString(int(missing), Nought));
     return digits;
 }
 
@@ -154,17 +146,24 @@ void appendSign(QString &text, const Pattern &pattern, double value)
 
 void appendNumber(QString &text, const Pattern &pattern, double value)
 {
-    const Digits digits = digitsOf(std::abs(value), pattern);
-    if (!isZero(digits.integers) || !isZero(digits.decimals))
-        appendSign(text, pattern, value);
+    const QString digits = writtenDigits(std::abs(value), pattern);
     if (!std::isfinite(value)) {
-        append(text, digits.integers);
+        appendSign(text, pattern, value);
+        text.append(digits);
         return;
     }
-    appendIntegers(text, pattern.integers, digits.integers);
-    if (!pattern.decimals.isEmpty()) {
+    const int point = digits.indexOf(Point);
+    const QStringView integers = QStringView(digits).left(point);
+    const QStringView decimals = pattern.decimals.isEmpty() ? QStringView() : QStringView(digits).mid(point + 1);
+    if (!isZero(integers) || !isZero(decimals))
+        appendSign(text, pattern, value);
+    // a comma behind each digit at most
+    text.reserve(int(text.size() + 2 * integers.size() + pattern.integers.size() + pattern.decimals.size() + 1 +
+                     pattern.suffix.size()));
+    appendIntegers(text, pattern.integers, integers);
+    if (!decimals.isEmpty()) {
         text.append(Point);
-        appendDecimals(text, pattern.decimals, digits.decimals);
+        appendDecimals(text, pattern.decimals, decimals);
     }
 }
 
