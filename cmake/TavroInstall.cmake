@@ -20,5 +20,15 @@ write_basic_package_version_file(${PROJECT_BINARY_DIR}/TavroConfigVersion.cmake 
 install(FILES ${PROJECT_BINARY_DIR}/TavroConfig.cmake ${PROJECT_BINARY_DIR}/TavroConfigVersion.cmake
     DESTINATION ${package_dir} COMPONENT development)
 
+# Relative to the file itself, so that an installation can be moved and staged below any prefix.
+foreach(dir LIBDIR INCLUDEDIR)
+    if(IS_ABSOLUTE "${CMAKE_INSTALL_${dir}}")
+        set(pc_${dir} "${CMAKE_INSTALL_${dir}}")
+    else()
+        set(pc_${dir} "\${prefix}/${CMAKE_INSTALL_${dir}}")
+    endif()
+endforeach()
+file(RELATIVE_PATH pc_prefix "${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig" "${CMAKE_INSTALL_PREFIX}")
+string(REGEX REPLACE "/$" "" pc_prefix "${pc_prefix}")
 configure_file(cmake/tavro.pc.in ${PROJECT_BINARY_DIR}/tavro.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/tavro.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT development)

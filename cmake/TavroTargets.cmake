@@ -16,7 +16,7 @@ endfunction()
 
 # One floor of the library.
 #   PURE      pairs of source and header that compute on plain values
-#   HEADERS   installed headers without a source
+#   HEADERS   further installed headers: those without a source, and those of PURE that a public class holds by value
 #   PUBLIC    classes of the interface; their headers are installed
 #   INTERNAL  classes that no host sees
 #   SOURCES   further sources of a class whose definitions fill more than one file
