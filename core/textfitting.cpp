@@ -17,19 +17,17 @@ constexpr int ProportionalSize = 256;
 struct Layout
 {
     int lineCount;
-    qreal width;
     qreal height;
 };
 
 Layout layOut(QTextLayout &layout, qreal width)
 {
-    Layout result{0, 0, 0};
+    Layout result{0, 0};
     layout.beginLayout();
     for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
         line.setLineWidth(width);
         line.setPosition(QPointF(0, result.height));
         result.height += line.height();
-        result.width = std::max(result.width, line.naturalTextWidth());
         ++result.lineCount;
     }
     layout.endLayout();
@@ -100,16 +98,6 @@ WrappedFit wrappedAndShrunk(const QFont &font, const QString &text, const QSizeF
         if (next < 2)
             return fit;
     }
-}
-
-QSizeF drawnSize(const QFont &font, const QString &text, qreal width, const QTextOption &option)
-{
-    QString lines = text;
-    lines.replace(QLatin1Char('\n'), QChar::LineSeparator);
-    QTextLayout layout(lines, font);
-    layout.setTextOption(option);
-    const Layout result = layOut(layout, width);
-    return {result.width, result.height};
 }
 
 } // namespace textfitting

@@ -3,7 +3,6 @@
 
 #include <QFont>
 #include <QSizeF>
-#include <QTextOption>
 
 /// Fits a text to a rectangle by shrinking its font one pixel at a time. Sizes in pixels; fonts carry a pixel size.
 namespace textfitting {
@@ -21,8 +20,5 @@ QFont shrunkToWidth(const QFont &font, const QString &text, qreal width);
 /// Largest font, from the size of `font` downwards, in which `text` wrapped to the width is lower than `box` is high,
 /// or stands on one line, however tall. Ends at 1 px where nothing fits; `lineCount` then is that of the size before.
 WrappedFit wrappedAndShrunk(const QFont &font, const QString &text, const QSizeF &box, Qt::Alignment alignment);
-
-/// Extent of `text` as a painter draws it in a rectangle of `width` with `option`; line feeds break lines.
-QSizeF drawnSize(const QFont &font, const QString &text, qreal width, const QTextOption &option);
 
 } // namespace textfitting

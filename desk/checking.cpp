@@ -1,0 +1,112 @@
+// SPDX-License-Identifier: MIT
+#include "desk/checking.h"
+
+#include "desk/form.h"
+#include "entry/tavroedit.h"
+
+#include <QGlyphRun>
+#include <QTextLayout>
+#include <algorithm>
+
+namespace checking {
+
+namespace {
+
+// Half a pixel is what antialiasing spreads anyway.
+constexpr qreal Tolerance = 0.5;
+
+// Wide enough that no line is broken.
+constexpr qreal Unbroken = 1e6;
+
+struct Extent
+{
+    qreal width = 0;
+    qreal height = 0;    ///< of the lines
+    qreal inkTop = 0;    ///< of the glyphs, from the top of the first line
+    qreal inkBottom = 0; ///< of the glyphs, from the top of the first line
+};
+
+// Lays the text out as a painter does that draws it into a rectangle of the width.
+Extent extentOf(QString text, const QFont &font, const QTextOption &option, qreal width)
+{
+    text.replace(QLatin1Char('\n'), QChar::LineSeparator);
+    QTextLayout layout(text, font);
+    layout.setTextOption(option);
+    Extent extent;
+    QRectF ink;
+    layout.beginLayout();
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+        line.setLineWidth(option.wrapMode() == QTextOption::NoWrap ? Unbroken : width);
+        line.setPosition({0, extent.height});
+        extent.height += line.height();
+        extent.width = std::max(extent.width, line.naturalTextWidth());
+    }
+    layout.endLayout();
+    const QList<QGlyphRun> runs = layout.glyphRuns();
+    for (const QGlyphRun &run : runs)
+        ink |= run.boundingRect();
+    extent.inkTop = ink.top();
+    extent.inkBottom = ink.bottom();
+    return extent;
+}
+
+qreal topOf(const QRectF &rect, qreal height, Qt::Alignment alignment)
+{
+    if (alignment & Qt::AlignBottom)
+        return rect.height() - height;
+    if (alignment & Qt::AlignVCenter)
+        return (rect.height() - height) / 2;
+    return 0;
+}
+
+QString named(const TavroPrototype &object, int index)
+{
+    const QString place = QStringLiteral("objects[%1]").arg(index);
+    return object.tavroID().isEmpty() ? place : QStringLiteral("%1 \"%2\"").arg(place, object.tavroID());
+}
+
+QString problemOf(TavroEdit *edit)
+{
+    const QString content = edit->contentData().toString();
+    if (!edit->isValid())
+        return QStringLiteral("invalid value \"%1\"").arg(content);
+    if (edit->isRequired() && edit->displayText().trimmed().isEmpty())
+        return content.trimmed().isEmpty() ? QStringLiteral("required, but missing")
+                                           : QStringLiteral("required, but \"%1\" prints nothing").arg(content);
+    if (edit->isPrint() && !textFits(*edit, edit->prefix() + edit->displayText()))
+        return QStringLiteral("text does not fit its rectangle: \"%1\"").arg(edit->prefix() + edit->displayText());
+    return {};
+}
+
+} // namespace
+
+bool textFits(const TavroText &object, const QString &text)
+{
+    if (text.trimmed().isEmpty())
+        return true;
+    const QRectF rect = object.boundingRect().normalized();
+    const QTextOption option = object.textOption();
+    const Extent extent = extentOf(text, object.font(), option, rect.width());
+    const qreal top = topOf(rect, extent.height, option.alignment());
+    return extent.width <= rect.width() + Tolerance && top + extent.inkTop >= -Tolerance
+        && top + extent.inkBottom <= rect.height() + Tolerance;
+}
+
+QStringList problems(const Form &form)
+{
+    QStringList found;
+    for (const QString &name : form.unknownNames())
+        found.append(QStringLiteral("unknown %1").arg(name));
+    form.fitTexts();
+    int index = 0;
+    for (const Form::Entry &entry : form.entries) {
+        auto *edit = qobject_cast<TavroEdit *>(entry.object.data());
+        const QString problem = edit ? problemOf(edit) : QString();
+        if (!problem.isEmpty())
+            found.append(QStringLiteral("%1: %2").arg(named(*edit, index), problem));
+        ++index;
+    }
+    return found;
+}
+
+} // namespace checking

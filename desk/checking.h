@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QStringList>
+
+class Form;
+class TavroText;
+
+/// Finds what would make a printed form wrong.
+namespace checking {
+
+/// One line for each problem, empty where the form can be printed: values that do not fit their format, required values
+/// that are missing, texts that do not fit their rectangle, and kinds and settings that this version does not know.
+QStringList problems(const Form &form);
+
+/// Whether the text of the object is printed whole: no line wider than the rectangle, and no ink above or below it.
+bool textFits(const TavroText &object, const QString &text);
+
+} // namespace checking

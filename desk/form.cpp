@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: MIT
+#include "desk/form.h"
+
+#include "core/tavrotext.h"
+
+Form::Form()
+{
+    // Lines may run in any direction; their negative rectangles are not found by an index.
+    m_scene.setItemIndexMethod(QGraphicsScene::NoIndex);
+}
+
+QRectF Form::pageRect() const
+{
+    return {QPointF(0, 0), pageSize * scale};
+}
+
+void Form::addObject(TavroPrototype *object, const QRectF &millimetres, const QJsonObject &unknownSettings)
+{
+    m_scene.addItem(object);
+    setGeometry(object, millimetres);
+    entries.push_back({object, unknownSettings});
+}
+
+TavroPrototype *Form::objectWithId(const QString &id) const
+{
+    for (const Entry &entry : entries) {
+        if (entry.object && entry.object->tavroID() == id)
+            return entry.object;
+    }
+    return nullptr;
+}
+
+void Form::setGeometry(TavroPrototype *object, const QRectF &millimetres) const
+{
+    object->setPhyRect(millimetres);
+    object->setPhyBoundingRectWidth(millimetres.width());
+    object->setPhyBoundingRectHeight(millimetres.height());
+    object->setBoundingRect({millimetres.topLeft() * scale, millimetres.size() * scale});
+    if (auto *text = qobject_cast<TavroText *>(object))
+        text->syncFontPixSz();
+}
+
+void Form::fitTexts() const
+{
+    for (const Entry &entry : entries) {
+        if (auto *text = qobject_cast<TavroText *>(entry.object.data()))
+            text->adjustTextStyle();
+    }
+}
+
+QStringList Form::unknownNames() const
+{
+    const auto settings = [](const QString &path, const QJsonObject &object) {
+        QStringList names;
+        for (const QString &key : object.keys())
+            names.append(QStringLiteral("%1setting \"%2\"").arg(path, key));
+        return names;
+    };
+    QStringList names = settings(QString(), unknown) + settings(QStringLiteral("page: "), unknownPage);
+    int index = 0;
+    for (const Entry &entry : entries) {
+        const QString path = QStringLiteral("objects[%1]: ").arg(index++);
+        if (entry.object)
+            names += settings(path, entry.unknown);
+        else
+            names += QStringLiteral("%1kind \"%2\"").arg(path, entry.unknown.value(QLatin1String("kind")).toString());
+    }
+    return names;
+}

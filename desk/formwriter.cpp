@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: MIT
+#include "desk/formwriter.h"
+
+#include "core/controlfactory.h"
+#include "core/tavroprototype.h"
+#include "desk/catalogue.h"
+#include "desk/form.h"
+#include "desk/formwords.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QSaveFile>
+#include <map>
+#include <memory>
+
+namespace formwriter {
+
+namespace {
+
+// One new object of each kind that the form uses, to tell which settings differ from it.
+class Defaults
+{
+public:
+    const TavroPrototype &of(ObjType kind)
+    {
+        std::unique_ptr<TavroPrototype> &object = m_objects[kind];
+        if (!object)
+            object.reset(ControlFactory::factory(kind));
+        return *object;
+    }
+
+private:
+    std::map<ObjType, std::unique_ptr<TavroPrototype>> m_objects;
+};
+
+QJsonObject objectJson(const TavroPrototype &object, const QJsonObject &unknown, Defaults *defaults)
+{
+    QJsonObject json = unknown;
+    json.insert(QLatin1String(formwords::Kind), catalogue::nameOf(object.objType()));
+    const QRectF rect = object.phyRect();
+    json.insert(QLatin1String(formwords::Rect), QJsonArray{rect.x(), rect.y(), rect.width(), rect.height()});
+    const TavroPrototype &fresh = defaults->of(object.objType());
+    for (const Setting &setting : catalogue::settingsOf(object.objType())) {
+        const QJsonValue value = setting.toJson(setting.get(object));
+        if (value != setting.toJson(setting.get(fresh)))
+            json.insert(setting.key, value);
+    }
+    return json;
+}
+
+QJsonObject pageJson(const Form &form)
+{
+    QJsonObject page = form.unknownPage;
+    page.insert(QLatin1String(formwords::Width), form.pageSize.width());
+    page.insert(QLatin1String(formwords::Height), form.pageSize.height());
+    const QMarginsF &margins = form.pageMargins;
+    if (!margins.isNull())
+        page.insert(QLatin1String(formwords::Margins),
+                    QJsonArray{margins.left(), margins.top(), margins.right(), margins.bottom()});
+    return page;
+}
+
+} // namespace
+
+QByteArray toBytes(const Form &form)
+{
+    Defaults defaults;
+    QJsonArray objects;
+    for (const Form::Entry &entry : form.entries)
+        objects.append(entry.object ? objectJson(*entry.object, entry.unknown, &defaults) : entry.unknown);
+    QJsonObject json = form.unknown;
+    json.insert(QLatin1String(formwords::Version), formwords::CurrentVersion);
+    json.insert(QLatin1String(formwords::Scale), form.scale);
+    json.insert(QLatin1String(formwords::Page), pageJson(form));
+    json.insert(QLatin1String(formwords::Objects), objects);
+    return QJsonDocument(json).toJson(QJsonDocument::Indented);
+}
+
+QString write(const Form &form, const QString &fileName)
+{
+    QSaveFile file(fileName);
+    const QByteArray bytes = toBytes(form);
+    if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit())
+        return {};
+    return QStringLiteral("%1: cannot be written: %2").arg(fileName, file.errorString());
+}
+
+} // namespace formwriter

@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+class Form;
+class QPainter;
+class QRectF;
+
+/// Puts forms on paper at true size.
+namespace printing {
+
+constexpr int LeastDpi = 10;
+constexpr int MostDpi = 4800;
+constexpr int UsualDpi = 300;
+
+/// Switches the form to printing, as after filling it in: what is invisible while filling in is not printed.
+void prepare(Form *form);
+
+/// Paints the page of a prepared form into a rectangle of the painter, in device units.
+void paintPage(QPainter *painter, Form *form, const QRectF &target);
+
+/// Whether the name ends with the suffix of a format that write() knows: .pdf, .png, .svg.
+bool isKnownFormat(const QString &fileName);
+
+/// Writes the whole file or, on an error, nothing; the result is one line that says what went wrong, else empty.
+/// `dpi` is the resolution of a PNG and the grid of a PDF or SVG, from LeastDpi to MostDpi.
+QString write(Form *form, const QString &fileName, int dpi);
+
+} // namespace printing

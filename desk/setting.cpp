@@ -1,0 +1,116 @@
+// SPDX-License-Identifier: MIT
+#include "desk/setting.h"
+
+#include <QStringList>
+#include <cmath>
+#include <limits>
+
+namespace {
+
+bool isWhole(double number)
+{
+    return number == std::floor(number) && std::abs(number) <= std::numeric_limits<int>::max();
+}
+
+QVariant colorFrom(const QString &text, int digits)
+{
+    bool isHex = false;
+    const unsigned int color = text.mid(1).toUInt(&isHex, 16);
+    const bool isColor = isHex && text.size() == digits + 1 && text.startsWith(QLatin1Char('#'));
+    return isColor ? QVariant(color) : QVariant();
+}
+
+QString colorText(unsigned int color, int digits)
+{
+    return QStringLiteral("#%1").arg(color, digits, 16, QLatin1Char('0'));
+}
+
+QVariant choiceFrom(const QJsonValue &json, const QVector<Setting::Choice> &choices)
+{
+    if (json.isDouble() && isWhole(json.toDouble()))
+        return json.toInt();
+    for (const Setting::Choice &choice : choices) {
+        if (json.isString() && choice.name == json.toString())
+            return choice.value;
+    }
+    return {};
+}
+
+QJsonValue choiceName(int value, const QVector<Setting::Choice> &choices)
+{
+    for (const Setting::Choice &choice : choices) {
+        if (choice.value == value)
+            return choice.name;
+    }
+    return value;
+}
+
+} // namespace
+
+QVariant Setting::fromJson(const QJsonValue &json) const
+{
+    const double number = json.toDouble();
+    switch (type) {
+    case Type::Flag:
+        return json.isBool() ? json.toVariant() : QVariant();
+    case Type::Integer:
+        return json.isDouble() && isWhole(number) && number >= minimum && number <= maximum ? json.toInt() : QVariant();
+    case Type::Number:
+        return json.isDouble() && number >= minimum && number <= maximum ? number : QVariant();
+    case Type::Text:
+        return json.isString() ? json.toVariant() : QVariant();
+    case Type::Color:
+        return colorFrom(json.toString(), 6);
+    case Type::AlphaColor:
+        return colorFrom(json.toString(), 8);
+    case Type::Choice:
+        return choiceFrom(json, choices);
+    }
+    return {};
+}
+
+QJsonValue Setting::toJson(const QVariant &value) const
+{
+    switch (type) {
+    case Type::Flag:
+        return value.toBool();
+    case Type::Integer:
+        return value.toInt();
+    case Type::Number:
+        return value.toDouble();
+    case Type::Text:
+        return value.toString();
+    case Type::Color:
+        return colorText(value.toUInt(), 6);
+    case Type::AlphaColor:
+        return colorText(value.toUInt(), 8);
+    case Type::Choice:
+        return choiceName(value.toInt(), choices);
+    }
+    return {};
+}
+
+QString Setting::expectation() const
+{
+    switch (type) {
+    case Type::Flag:
+        return QStringLiteral("true or false");
+    case Type::Integer:
+        return QStringLiteral("a whole number from %1 to %2").arg(minimum, 0, 'f', 0).arg(maximum, 0, 'f', 0);
+    case Type::Number:
+        return QStringLiteral("a number from %1 to %2").arg(minimum).arg(maximum);
+    case Type::Text:
+        return QStringLiteral("a text");
+    case Type::Color:
+        return QStringLiteral("a colour such as \"#1ba39c\"");
+    case Type::AlphaColor:
+        return QStringLiteral("a colour with its opacity such as \"#ff1ba39c\"");
+    case Type::Choice: {
+        QStringList names;
+        for (const Choice &choice : choices)
+            names.append(choice.name);
+        return QStringLiteral("one of %1, or a whole number").arg(names.join(QStringLiteral(", ")));
+    }
+    }
+    return {};
+}

@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QJsonValue>
+#include <QString>
+#include <QVariant>
+#include <QVector>
+#include <functional>
+
+class TavroPrototype;
+
+/// One setting of a kind of object: how it is called, what values it takes, and how an object gives and takes it.
+struct Setting
+{
+    enum class Type {
+        Flag,
+        Integer,
+        Number,
+        Text,
+        Color,      ///< "#rrggbb"
+        AlphaColor, ///< "#aarrggbb"
+        Choice      ///< a name, or a number for values without a name
+    };
+
+    /// Name in the form file and number in the library of one value of a Choice.
+    struct Choice
+    {
+        QString name;
+        int value;
+    };
+
+    QString key;   ///< name in the form file
+    QString label; ///< name on the screen
+    QString group; ///< heading under which it stands
+    Type type;
+    std::function<QVariant(const TavroPrototype &)> get;
+    /// `scale` is the form's, in pixels per millimetre.
+    std::function<void(TavroPrototype &, const QVariant &, double scale)> set;
+    QVector<Choice> choices; ///< of a Choice
+    double minimum = 0;      ///< of an Integer or a Number
+    double maximum = 0;
+
+    /// Value to give to set(), or an invalid one where the JSON value does not fit.
+    QVariant fromJson(const QJsonValue &json) const;
+    QJsonValue toJson(const QVariant &value) const;
+    /// What fromJson() takes, in words.
+    QString expectation() const;
+};
