@@ -29,6 +29,11 @@ bool isEditingKey(int key)
     }
 }
 
+bool isFocusKey(int key)
+{
+    return key == Qt::Key_Tab || key == Qt::Key_Backtab;
+}
+
 } // namespace
 
 TextEdit::TextEdit(QWidget *parent)
@@ -67,6 +72,9 @@ void TextEdit::keyPressEvent(QKeyEvent *event)
     if (event->modifiers() == Qt::ControlModifier) {
         if (isShortcut(key))
             QPlainTextEdit::keyPressEvent(event);
+    } else if (isFocusKey(key) && tabChangesFocus()) {
+        // It comes here from the last field of a form: the view has to pass the focus on, and no tab is written.
+        event->ignore();
     } else if (isEditingKey(key)) {
         QPlainTextEdit::keyPressEvent(event);
     } else if (inputformat::acceptsKey(m_format, key)) {
