@@ -33,8 +33,9 @@ TavroEdit::TavroEdit(QGraphicsItem *parent)
     , m_widgetPrxy(new QGraphicsProxyWidget(this))
 {
     setObjType(Obj_Edit);
-    m_widgetPrxy->setMinimumSize(0, 0);
     m_widgetPrxy->setWidget(m_editor);
+    // Taking the widget, the proxy takes its minimum size too, which is higher than most fields.
+    m_widgetPrxy->setMinimumSize(0, 0);
     m_widgetPrxy->hide();
     setFocusProxy(m_widgetPrxy);
     connect(m_editor, &TextEdit::textChanged, this, &TavroEdit::syncContentData);
@@ -392,6 +393,8 @@ void TavroEdit::setBorderColor(const QString &color)
 
 void TavroEdit::syncContentData()
 {
+    if (!m_editor)
+        return;
     const QString text = m_editor->toPlainText();
     storeContent(text);
     Q_EMIT contentDataChanged();
