@@ -134,26 +134,25 @@ const Settings &commonSettings()
 template <typename Stroked>
 Settings strokeSettings()
 {
-    Setting width = ranged(member("lineWidth", "Line width (mm)", "Line", Type::Number, &Stroked::lineWidthPhy,
-                                  &Stroked::setLineWidthPhy),
-                           0, 100);
+    Setting width = ranged(
+        member("lineWidth", "Line width (mm)", "Line", Type::Number, &Stroked::lineWidthPhy, &Stroked::setLineWidthPhy),
+        0, 100);
     width.set = [](TavroPrototype &object, const QVariant &value, double scale) {
         auto &stroked = static_cast<Stroked &>(object);
         stroked.setLineWidthPhy(value.toDouble());
         stroked.setLineWidthPix(value.toDouble() * scale);
     };
-    return commonSettings()
-        + Settings{width,
-                   member("lineColor", "Line colour", "Line", Type::AlphaColor, &Stroked::lineColor,
-                          &Stroked::setLineColor),
-                   choosing(member("lineStyle", "Line style", "Line", Type::Choice, &Stroked::lineStyle,
-                                   &Stroked::setLineStyle),
-                            {{"none", Qt::NoPen},
-                             {"solid", Qt::SolidLine},
-                             {"dash", Qt::DashLine},
-                             {"dot", Qt::DotLine},
-                             {"dashDot", Qt::DashDotLine},
-                             {"dashDotDot", Qt::DashDotDotLine}})};
+    return commonSettings() + Settings{width,
+                                       member("lineColor", "Line colour", "Line", Type::AlphaColor, &Stroked::lineColor,
+                                              &Stroked::setLineColor),
+                                       choosing(member("lineStyle", "Line style", "Line", Type::Choice,
+                                                       &Stroked::lineStyle, &Stroked::setLineStyle),
+                                                {{"none", Qt::NoPen},
+                                                 {"solid", Qt::SolidLine},
+                                                 {"dash", Qt::DashLine},
+                                                 {"dot", Qt::DotLine},
+                                                 {"dashDot", Qt::DashDotLine},
+                                                 {"dashDotDot", Qt::DashDotDotLine}})};
 }
 
 const Settings &boxSettings()
@@ -225,31 +224,31 @@ Settings entrySettings(const Setting &presetSetting)
 {
     using E = TavroEdit;
     // The preset stands last: texts are converted when they are set, by the settings of that moment.
-    return commonSettings() + boxSettings() + textSettings()
-        + Settings{
-            choosing(member("format", "Format", "Value", Type::Choice, &E::formatType, &E::setFormatType),
-                     {{"text", Format_Text},
-                      {"number", Format_Number},
-                      {"rmbCapital", Format_RmbCapital},
-                      {"rmbCapitalAlt", Format_RmbCapitalAlt},
-                      {"rmbCapitalYuan", Format_RmbCapitalYuan},
-                      {"usdCapital", Format_UsdCapital},
-                      {"rmbCapitalNoSuffix", Format_RmbCapitalNoSuffix},
-                      {"englishAmount", Format_EnglishAmount},
-                      {"serialNumber", Format_SerialNumber},
-                      {"freeText", Format_FreeText},
-                      {"customized", Format_Customized}}),
-            member("numberPattern", "Number pattern", "Value", Type::Text, &E::customizedFormat,
-                   &E::setCustomizedFormat),
-            member("zeroClear", "Zero shows nothing", "Value", Type::Flag, &E::isZeroClear, &E::setIsZeroClear),
-            member("zeroBeforeThousand", "Zero before thousands", "Value", Type::Flag,
-                   &E::getAddZeroBeforeThousandState, &E::setAddZeroBeforeThousandState),
-            member("zeroBeforeJiao", "Zero before tenths", "Value", Type::Flag, &E::getAddZeroBeforeJiaoState,
-                   &E::setAddZeroBeforeJiaoState),
-            member("pattern", "Must match", "Value", Type::Text, &E::usrRegExpPattern, &E::setUsrRegExpPattern),
-            member("placeholder", "Hint", "Value", Type::Text, &E::placeholder, &E::setPlaceholder),
-            presetSetting,
-        };
+    return commonSettings() + boxSettings() + textSettings() +
+           Settings{
+               choosing(member("format", "Format", "Value", Type::Choice, &E::formatType, &E::setFormatType),
+                        {{"text", Format_Text},
+                         {"number", Format_Number},
+                         {"rmbCapital", Format_RmbCapital},
+                         {"rmbCapitalAlt", Format_RmbCapitalAlt},
+                         {"rmbCapitalYuan", Format_RmbCapitalYuan},
+                         {"usdCapital", Format_UsdCapital},
+                         {"rmbCapitalNoSuffix", Format_RmbCapitalNoSuffix},
+                         {"englishAmount", Format_EnglishAmount},
+                         {"serialNumber", Format_SerialNumber},
+                         {"freeText", Format_FreeText},
+                         {"customized", Format_Customized}}),
+               member("numberPattern", "Number pattern", "Value", Type::Text, &E::customizedFormat,
+                      &E::setCustomizedFormat),
+               member("zeroClear", "Zero shows nothing", "Value", Type::Flag, &E::isZeroClear, &E::setIsZeroClear),
+               member("zeroBeforeThousand", "Zero before thousands", "Value", Type::Flag,
+                      &E::getAddZeroBeforeThousandState, &E::setAddZeroBeforeThousandState),
+               member("zeroBeforeJiao", "Zero before tenths", "Value", Type::Flag, &E::getAddZeroBeforeJiaoState,
+                      &E::setAddZeroBeforeJiaoState),
+               member("pattern", "Must match", "Value", Type::Text, &E::usrRegExpPattern, &E::setUsrRegExpPattern),
+               member("placeholder", "Hint", "Value", Type::Text, &E::placeholder, &E::setPlaceholder),
+               presetSetting,
+           };
 }
 
 struct Kind

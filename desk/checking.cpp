@@ -65,16 +65,19 @@ QString named(const TavroPrototype &object, int index)
     return object.tavroID().isEmpty() ? place : QStringLiteral("%1 \"%2\"").arg(place, object.tavroID());
 }
 
+// An empty value is missing where it is required, and no mistake where it is not, whatever its format.
 QString problemOf(TavroEdit *edit)
 {
     const QString content = edit->contentData().toString();
+    if (content.trimmed().isEmpty())
+        return edit->isRequired() ? QStringLiteral("required, but missing") : QString();
     if (!edit->isValid())
         return QStringLiteral("invalid value \"%1\"").arg(content);
-    if (edit->isRequired() && edit->displayText().trimmed().isEmpty())
-        return content.trimmed().isEmpty() ? QStringLiteral("required, but missing")
-                                           : QStringLiteral("required, but \"%1\" prints nothing").arg(content);
-    if (edit->isPrint() && !textFits(*edit, edit->prefix() + edit->displayText()))
-        return QStringLiteral("text does not fit its rectangle: \"%1\"").arg(edit->prefix() + edit->displayText());
+    const QString shown = edit->displayText();
+    if (edit->isRequired() && shown.trimmed().isEmpty())
+        return QStringLiteral("required, but \"%1\" prints nothing").arg(content);
+    if (edit->isPrint() && !textFits(*edit, edit->prefix() + shown))
+        return QStringLiteral("text does not fit its rectangle: \"%1\"").arg(edit->prefix() + shown);
     return {};
 }
 
@@ -88,8 +91,8 @@ bool textFits(const TavroText &object, const QString &text)
     const QTextOption option = object.textOption();
     const Extent extent = extentOf(text, object.font(), option, rect.width());
     const qreal top = topOf(rect, extent.height, option.alignment());
-    return extent.width <= rect.width() + Tolerance && top + extent.inkTop >= -Tolerance
-        && top + extent.inkBottom <= rect.height() + Tolerance;
+    return extent.width <= rect.width() + Tolerance && top + extent.inkTop >= -Tolerance &&
+           top + extent.inkBottom <= rect.height() + Tolerance;
 }
 
 QStringList problems(const Form &form)

@@ -15,18 +15,19 @@ namespace commandline {
 
 namespace {
 
-const char Usage[] = "usage: tavro-desk print FORM [--data RECORD] --output FILE.pdf|.png|.svg [--dpi N] [--force] "
-                     "[--verbose]\n"
-                     "       tavro-desk check FORM [--data RECORD] [--verbose]\n"
-                     "\n"
-                     "print   puts a form at true size into a file; refuses a form with problems unless --force\n"
-                     "check   lists the problems of a form: values that are invalid or missing, texts that do not fit,\n"
-                     "        and what this version does not know\n"
-                     "\n"
-                     "FORM    a form file (*.tform)\n"
-                     "RECORD  a JSON object from the identifier of an object to its value\n"
-                     "\n"
-                     "exit codes: 0 done, 1 problems found, 2 a file or an argument cannot be used\n";
+const char Usage[] =
+    "usage: tavro-desk print FORM [--data RECORD] --output FILE.pdf|.png|.svg [--dpi N] [--force] "
+    "[--verbose]\n"
+    "       tavro-desk check FORM [--data RECORD] [--verbose]\n"
+    "\n"
+    "print   puts a form at true size into a file; refuses a form with problems unless --force\n"
+    "check   lists the problems of a form: values that are invalid or missing, texts that do not fit,\n"
+    "        and what this version does not know\n"
+    "\n"
+    "FORM    a form file (*.tform)\n"
+    "RECORD  a JSON object from the identifier of an object to its value\n"
+    "\n"
+    "exit codes: 0 done, 1 problems found, 2 a file or an argument cannot be used\n";
 
 struct Request
 {

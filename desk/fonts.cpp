@@ -26,9 +26,8 @@ const QVector<Substitution> &substitutions()
                                  QStringLiteral("WenQuanYi Micro Hei")};
     static const QStringList kai{QStringLiteral("AR PL UKai CN"), QStringLiteral("AR PL KaitiM GB"),
                                  QStringLiteral("Noto Serif CJK SC")};
-    static const QVector<Substitution> all{{QStringLiteral("宋体"), song},
-                                           {QStringLiteral("黑体"), hei},
-                                           {QStringLiteral("楷体"), kai}};
+    static const QVector<Substitution> all{
+        {QStringLiteral("宋体"), song}, {QStringLiteral("黑体"), hei}, {QStringLiteral("楷体"), kai}};
     return all;
 }
 

@@ -23,7 +23,11 @@ constexpr double MostScale = 200;
 class Reader
 {
 public:
-    Reader(const QJsonObject &json, const QString &fileName) : m_json(json), m_fileName(fileName) {}
+    Reader(const QJsonObject &json, const QString &fileName)
+        : m_json(json)
+        , m_fileName(fileName)
+    {
+    }
 
     Result read()
     {
@@ -75,9 +79,9 @@ private:
         double width = 0;
         double height = 0;
         if (!readNumber(page.value(QLatin1String(formwords::Width)), path + QStringLiteral(".width"), 1,
-                        MostMillimetres, &width)
-            || !readNumber(page.value(QLatin1String(formwords::Height)), path + QStringLiteral(".height"), 1,
-                           MostMillimetres, &height))
+                        MostMillimetres, &width) ||
+            !readNumber(page.value(QLatin1String(formwords::Height)), path + QStringLiteral(".height"), 1,
+                        MostMillimetres, &height))
             return false;
         m_form->pageSize = QSizeF(width, height);
         return readMargins(page.value(QLatin1String(formwords::Margins)), path + QStringLiteral(".margins"));

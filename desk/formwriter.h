@@ -6,7 +6,8 @@
 
 class Form;
 
-/// Writes form files. What a file holds depends on the form alone: reading it and writing it again gives the same bytes.
+/// Writes form files. What a file holds depends on the form alone: reading it and writing it again gives the same
+/// bytes.
 namespace formwriter {
 
 /// The text of the file. Settings that a new object of the kind has anyway are left out; unknown ones are kept.

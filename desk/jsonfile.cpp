@@ -81,9 +81,9 @@ QString described(const QJsonValue &value)
     case QJsonValue::String: {
         constexpr int mostCharacters = 60;
         const QString text = value.toString();
-        return QLatin1Char('"')
-            + (text.size() > mostCharacters ? text.left(mostCharacters) + QStringLiteral("...") : text)
-            + QLatin1Char('"');
+        return QLatin1Char('"') +
+               (text.size() > mostCharacters ? text.left(mostCharacters) + QStringLiteral("...") : text) +
+               QLatin1Char('"');
     }
     case QJsonValue::Array:
         return QStringLiteral("an array of %1").arg(value.toArray().size());
@@ -108,14 +108,16 @@ Content read(const QString &fileName)
     QJsonParseError problem;
     const QJsonDocument document = QJsonDocument::fromJson(bytes, &problem);
     if (problem.error != QJsonParseError::NoError)
-        return {{}, QStringLiteral("%1: %2: expected JSON: %3")
-                        .arg(fileName, lineAndColumn(bytes, problem.offset), problem.errorString())};
+        return {{},
+                QStringLiteral("%1: %2: expected JSON: %3")
+                    .arg(fileName, lineAndColumn(bytes, problem.offset), problem.errorString())};
     if (!document.isObject())
         return {{}, QStringLiteral("%1: expected a JSON object, found an array").arg(fileName)};
     const int second = secondName(bytes);
     if (second >= 0)
-        return {{}, QStringLiteral("%1: %2: expected each name once in an object")
-                        .arg(fileName, lineAndColumn(bytes, second))};
+        return {
+            {},
+            QStringLiteral("%1: %2: expected each name once in an object").arg(fileName, lineAndColumn(bytes, second))};
     return {document.object(), QString()};
 }
 

@@ -6,11 +6,24 @@
 #include <QTextStream>
 #include <cstdio>
 
+namespace {
+
+// A daemon or a container has no runtime directory. The commands do not need one, and one line about it before every
+// report would hide the report.
+void writeMessage(QtMsgType type, const QMessageLogContext &context, const QString &text)
+{
+    if (!text.startsWith(QLatin1String("QStandardPaths: XDG_RUNTIME_DIR not set")))
+        fprintf(stderr, "%s\n", qPrintable(qFormatLogMessage(type, context, text)));
+}
+
+} // namespace
+
 int main(int argc, char *argv[])
 {
     // The commands show no window, so they need no display.
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
+    qInstallMessageHandler(writeMessage);
     const QApplication application(argc, argv);
     fonts::substituteMissing();
     QTextStream out(stdout);

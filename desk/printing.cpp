@@ -87,9 +87,8 @@ struct Format
 
 const Format *formatOf(const QString &fileName)
 {
-    static const QVector<Format> formats{{QStringLiteral("pdf"), toPdf},
-                                         {QStringLiteral("png"), toPng},
-                                         {QStringLiteral("svg"), toSvg}};
+    static const QVector<Format> formats{
+        {QStringLiteral("pdf"), toPdf}, {QStringLiteral("png"), toPng}, {QStringLiteral("svg"), toSvg}};
     const QString suffix = QFileInfo(fileName).suffix().toLower();
     for (const Format &format : formats) {
         if (format.suffix == suffix)
