@@ -39,15 +39,31 @@ int nextSize(int size)
     return size > 2 ? size - 1 : 1;
 }
 
-// Largest size below `size` whose extent can come down to `wanted`, when `size` pixels give `extent` and the rounding
-// of each of `parts` glyphs or lines is worth a pixel.
-int largestCandidate(int size, qreal extent, qreal wanted, int parts)
+// Largest size below `size` whose extent can come down to `wanted`, when `size` pixels give `extent`, of which
+// `constant` does not shrink with the font, and the rounding of each of `parts` glyphs or lines is worth a pixel.
+int largestCandidate(int size, qreal extent, qreal constant, qreal wanted, int parts)
 {
-    const qreal perPixel = (extent - parts) / size;
+    const qreal perPixel = (extent - constant - parts) / size;
     if (!(perPixel > 0))
         return size - 1;
     const qreal candidate = std::ceil((wanted + parts) / perPixel) + 1;
     return static_cast<int>(std::clamp<qreal>(candidate, 1, size - 1));
+}
+
+// The same for `text` on one line.
+int largestOneLineCandidate(const QFont &font, const QString &text, qreal width)
+{
+    constexpr qreal tabDistance = 80;
+    const qreal tabs = tabDistance * text.count(QLatin1Char('\t'));
+    return largestCandidate(font.pixelSize(), QFontMetricsF(font).horizontalAdvance(text), tabs, width, text.size());
+}
+
+QString withoutTrailingSpaces(const QString &text)
+{
+    int length = text.size();
+    while (length > 0 && text.at(length - 1).isSpace())
+        --length;
+    return text.left(length);
 }
 
 } // namespace
@@ -61,10 +77,8 @@ QFont shrunkToWidth(const QFont &font, const QString &text, qreal width)
         if (!(textWidth > width))
             return fitted;
         int next = nextSize(size);
-        if (size > ProportionalSize) {
-            const int candidate = largestCandidate(size, textWidth, width, text.size());
-            next = std::max(candidate, ProportionalSize);
-        }
+        if (size > ProportionalSize)
+            next = std::max(largestOneLineCandidate(fitted, text, width), ProportionalSize);
         fitted.setPixelSize(next);
         if (next < 2)
             return fitted;
@@ -88,11 +102,11 @@ WrappedFit wrappedAndShrunk(const QFont &font, const QString &text, const QSizeF
         const int size = fit.font.pixelSize();
         int next = nextSize(size);
         if (size > ProportionalSize) {
-            // A smaller size stops on one line or with at least two lines inside the box, whichever comes first.
-            const qreal oneLine = QFontMetricsF(fit.font).horizontalAdvance(text);
-            const qreal twoLines = 2 * lines.height / lines.lineCount;
-            next = std::max({largestCandidate(size, oneLine, box.width(), text.size()),
-                             largestCandidate(size, twoLines, box.height(), 2), ProportionalSize});
+            // A smaller size stops on one line, beyond which spaces at the end may hang, or with at least two lines
+            // inside the box, whichever comes first. Other fonts that stand in for missing glyphs only add height.
+            const qreal twoLines = 2 * QFontMetricsF(fit.font).height();
+            next = std::max({largestOneLineCandidate(fit.font, withoutTrailingSpaces(text), box.width()),
+                             largestCandidate(size, twoLines, 0, box.height(), 2), ProportionalSize});
         }
         fit.font.setPixelSize(next);
         if (next < 2)
