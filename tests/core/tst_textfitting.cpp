@@ -6,6 +6,7 @@
 #include <QHash>
 #include <QTest>
 #include <QTextLayout>
+#include <numeric>
 
 namespace {
 
@@ -97,6 +98,19 @@ private:
     QHash<int, Lines> m_lines;
 };
 
+void compareWithStepByStep(const QString &text, const QSizeF &box, const QVector<int> &starts)
+{
+    StepByStep expected(text, box);
+    for (const int start : starts) {
+        const QFont font = fontOfSize(start);
+        QCOMPARE(textfitting::shrunkToWidth(font, text, box.width()).pixelSize(), expected.shrunkToWidth(start));
+        const textfitting::WrappedFit fit = textfitting::wrappedAndShrunk(font, text, box, Qt::AlignLeft);
+        const Fitted wrapped = expected.wrappedAndShrunk(start);
+        QCOMPARE(fit.font.pixelSize(), wrapped.size);
+        QCOMPARE(fit.lineCount, wrapped.lineCount);
+    }
+}
+
 const QString Sentence = QStringLiteral("Pay to the order of the Harbour Trading Company, Ltd.");
 const QString Amount = QStringLiteral("1234567890.00");
 const QString Chinese = QStringLiteral("人民币壹佰贰拾叁万肆仟伍佰陆拾柒元捌角玖分");
@@ -113,6 +127,8 @@ private Q_SLOTS:
     void initTestCase();
     void sameAsStepByStep_data();
     void sameAsStepByStep();
+    void everyStartSize_data();
+    void everyStartSize();
     void hugeSizesAreTheSame_data();
     void hugeSizesAreTheSame();
     void exactWidthFits();
@@ -160,20 +176,36 @@ void TestTextFitting::sameAsStepByStep()
 {
     QFETCH(QString, text);
     QFETCH(QSizeF, box);
-    StepByStep expected(text, box);
-    for (int start = 1; start <= 400; ++start) {
-        const QFont font = fontOfSize(start);
-        QCOMPARE(textfitting::shrunkToWidth(font, text, box.width()).pixelSize(), expected.shrunkToWidth(start));
-        const textfitting::WrappedFit fit = textfitting::wrappedAndShrunk(font, text, box, Qt::AlignLeft);
-        const Fitted wrapped = expected.wrappedAndShrunk(start);
-        QCOMPARE(fit.font.pixelSize(), wrapped.size);
-        QCOMPARE(fit.lineCount, wrapped.lineCount);
-    }
+    QVector<int> starts{60, 257, 1500};
+    for (int start = 1; start <= 20; ++start)
+        starts.append(start);
+    compareWithStepByStep(text, box, starts);
+}
+
+void TestTextFitting::everyStartSize_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QSizeF>("box");
+
+    // Boxes in which the fonts end between a few pixels below and above the size from which sizes are skipped.
+    QTest::newRow("sentence") << Sentence << QSizeF(4600, 760);
+    QTest::newRow("amount") << Amount << QSizeF(2450, 500);
+}
+
+void TestTextFitting::everyStartSize()
+{
+    QFETCH(QString, text);
+    QFETCH(QSizeF, box);
+    QVector<int> starts(400);
+    std::iota(starts.begin(), starts.end(), 1);
+    compareWithStepByStep(text, box, starts);
 }
 
 void TestTextFitting::hugeSizesAreTheSame_data()
 {
-    sameAsStepByStep_data();
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QSizeF>("box");
+
     // Boxes in which the text fits far above the usual sizes.
     QTest::newRow("sentence in a poster") << Sentence << QSizeF(9000, 3000);
     QTest::newRow("sentence over a wall") << Sentence << QSizeF(20000, 700);
@@ -199,15 +231,7 @@ void TestTextFitting::hugeSizesAreTheSame()
 {
     QFETCH(QString, text);
     QFETCH(QSizeF, box);
-    StepByStep expected(text, box);
-    for (const int start : {257, 300, 450, 700, 999, 1500}) {
-        const QFont font = fontOfSize(start);
-        QCOMPARE(textfitting::shrunkToWidth(font, text, box.width()).pixelSize(), expected.shrunkToWidth(start));
-        const textfitting::WrappedFit fit = textfitting::wrappedAndShrunk(font, text, box, Qt::AlignLeft);
-        const Fitted wrapped = expected.wrappedAndShrunk(start);
-        QCOMPARE(fit.font.pixelSize(), wrapped.size);
-        QCOMPARE(fit.lineCount, wrapped.lineCount);
-    }
+    compareWithStepByStep(text, box, {300, 700, 1500});
 }
 
 void TestTextFitting::exactWidthFits()
