@@ -11,6 +11,7 @@
 
 #include <QDebug>
 #include <QGraphicsProxyWidget>
+#include <QGraphicsSceneMouseEvent>
 #include <QPainter>
 #include <QSignalBlocker>
 #include <QTimer>
@@ -428,9 +429,13 @@ void TavroEdit::syncTextEditFont()
 
 void TavroEdit::mousePressEvent(QGraphicsSceneMouseEvent *event)
 {
-    if (paintMode() == Paint_Input)
+    const bool isInput = paintMode() == Paint_Input;
+    if (isInput)
         readyForEdit();
     TavroText::mousePressEvent(event);
+    // A field that can be neither selected nor moved lets the press through, and one below it would take the focus.
+    if (isInput && !isReadOnly())
+        event->accept();
 }
 
 void TavroEdit::focusInEvent(QFocusEvent *event)
