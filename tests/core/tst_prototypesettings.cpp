@@ -1,0 +1,216 @@
+// SPDX-License-Identifier: MIT
+#include "core/tavroprototype.h"
+#include "graphic/tavroline.h"
+#include "graphic/tavrorect.h"
+#include "tests/support/settingtable.h"
+#include "tests/support/stricttest.h"
+
+#include <QSignalSpy>
+
+namespace {
+
+using P = TavroPrototype;
+
+constexpr bool Marks = true;
+constexpr bool DoesNotMark = false;
+
+template <typename Value, typename Getter, typename Setter>
+Setting<P> of(const char *name, Getter get, Setter set, const Value &initial, const Value &written, bool marks)
+{
+    return setting<P>(name, get, set, initial, written, marks);
+}
+
+QVector<Setting<P>> settings()
+{
+    const auto setTable = [](P &object, const QString &table) { object.bindToDB(table, QStringLiteral("c")); };
+    const auto setColumn = [](P &object, const QString &column) { object.bindToDB({QStringLiteral("t"), column}); };
+    const auto color = [](unsigned int value) { return value; };
+    return {
+        of<QString>("originalID", &P::originalID, &P::setOriginalID, {}, QStringLiteral("o1"), DoesNotMark),
+        of<QString>("tavroID", &P::tavroID, &P::setTavroID, {}, QStringLiteral("t1"), Marks),
+        of<QString>("tableDB", &P::tableDB, setTable, {}, QStringLiteral("cheques"), Marks),
+        of<QString>("columnDB", &P::columnDB, setColumn, {}, QStringLiteral("payee"), Marks),
+        of<int>("iniAngle", &P::getIniAngle, &P::setIniAngle, 0, 45, DoesNotMark),
+        of<int>("rotateAngle", &P::getRotateAngle, &P::setRotateAngle, 0, -30, DoesNotMark),
+        of<int>("borderWpx", &P::borderWpx, &P::setBorderWpx, 1, 7, DoesNotMark),
+        of<bool>("hasBorder", &P::hasBorder, &P::setHasBorder, true, false, Marks),
+        of<unsigned>("borderColor", &P::borderColor, &P::setBorderColor, color(0x1BA39C), 0x123456, Marks),
+        of<bool>("isPrint", &P::isPrint, &P::setIsPrint, true, false, Marks),
+        of<bool>("isLocked", &P::isLocked, &P::setIsLocked, false, true, Marks),
+        of<bool>("isRequired", &P::isRequired, &P::setIsRequired, false, true, Marks),
+        of<bool>("isObjVisible", &P::isObjVisible, &P::setObjVisible, true, false, Marks),
+        of<bool>("isObjEnabled", &P::isObjEnabled, &P::setObjEnabled, true, false, Marks),
+        of<bool>("isReadOnly", &P::isReadOnly, &P::setIsReadOnly, false, true, Marks),
+        of<bool>("isResetAtRenew", &P::isResetAtRenew, &P::setIsResetAtRenew, true, false, Marks),
+        of<bool>("isZeroForThousand", &P::isZeroForThousand, &P::setIsZeroForThousand, false, true, Marks),
+        of<bool>("isZeroForPoint", &P::isZeroForPoint, &P::setIsZeroForPoint, false, true, Marks),
+        of<int>("tabOrder", &P::tabOrder, &P::setTabOrder, 0, -3, Marks),
+        of<int>("backgroundStyle", &P::backgroundStyle, &P::setBackgroundStyle, 0, 9, Marks),
+        of<unsigned>("backgroundColor", &P::backgroundColor, &P::setBackgroundColor, color(0xFFFFFF), 0x654321, Marks),
+        of<Paint_Mode>("paintMode", &P::paintMode, &P::setPaintMode, Paint_Design, Paint_Print, DoesNotMark),
+        of<QVariant>("contentData", &P::contentData, &P::setContentData, {}, 12.5, DoesNotMark),
+        of<QVariant>("presetData", &P::presetData, &P::setPresetData, {}, QStringLiteral("none"), Marks),
+        of<QRectF>("boundingRect", &P::boundingRect, &P::setBoundingRect, {}, {1, 2, -3, 4}, DoesNotMark),
+        of<double>("objX", &P::objX, &P::setObjX, 0, 2.5, DoesNotMark),
+        of<double>("objY", &P::objY, &P::setObjY, 0, 2.5, DoesNotMark),
+        of<QPointF>("objPos", &P::objPos, &P::setObjPos, {}, {2.5, -1}, DoesNotMark),
+        of<double>("width", &P::width, &P::setWidth, 0, -2.5, DoesNotMark),
+        of<double>("height", &P::height, &P::setHeight, 0, -2.5, DoesNotMark),
+        of<QRectF>("phyRect", &P::phyRect, &P::setPhyRect, {}, {1, 2, 3, 4}, Marks),
+        of<double>("phyBoundingRectWidth", &P::getPhyBoundingRectWidth, &P::setPhyBoundingRectWidth, 0, 80.5,
+                   DoesNotMark),
+        of<double>("phyBoundingRectHeight", &P::getPhyBoundingRectHeight, &P::setPhyBoundingRectHeight, 0, 20.5,
+                   DoesNotMark),
+        of<bool>("isProportional", &P::isProportional, &P::setProportional, false, true, DoesNotMark),
+    };
+}
+
+// Lines and rectangles share the names of their settings, not a class.
+template <typename T>
+QVector<Setting<T>> strokeSettings()
+{
+    return {
+        setting<T>("lineWidthPix", &T::lineWidthPix, &T::setLineWidthPix, 1.0, 2.75, DoesNotMark),
+        setting<T>("lineWidthPhy", &T::lineWidthPhy, &T::setLineWidthPhy, 0.25, 0.7, Marks),
+        setting<T>("lineColor", &T::lineColor, &T::setLineColor, 0xFF000000U, 0x80FF0000U, Marks),
+        setting<T>("lineStyle", &T::lineStyle, &T::setLineStyle, Qt::SolidLine, Qt::DashDotLine, Marks),
+    };
+}
+
+} // namespace
+
+/// Every getter and setter pair: initial value, what is stored, and whether the object counts as modified.
+class TestPrototypeSettings : public StrictTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void prototype_data() { addSettingRows(settings()); }
+    void prototype();
+    void line_data() { addSettingRows(strokeSettings<TavroLine>()); }
+    void line();
+    void rectangle_data() { addSettingRows(strokeSettings<TavroRect>()); }
+    void rectangle();
+    void strokeWidthsAreNotConverted();
+    void remainingInitialValues();
+    void bindingMarksModified();
+    void binding();
+    void identifierIsTheToolTip();
+    void settersTouchTheirFieldOnly();
+};
+
+void TestPrototypeSettings::prototype()
+{
+    QFETCH(int, index);
+    checkSetting(settings().at(index));
+}
+
+void TestPrototypeSettings::line()
+{
+    QFETCH(int, index);
+    checkSetting(strokeSettings<TavroLine>().at(index));
+}
+
+void TestPrototypeSettings::rectangle()
+{
+    QFETCH(int, index);
+    checkSetting(strokeSettings<TavroRect>().at(index));
+}
+
+void TestPrototypeSettings::strokeWidthsAreNotConverted()
+{
+    TavroLine line;
+    line.setLineWidthPix(8);
+    QCOMPARE(line.lineWidthPhy(), 0.25);
+    line.setLineWidthPhy(3);
+    QCOMPARE(line.lineWidthPix(), 8.0);
+    TavroRect rect;
+    rect.setLineWidthPhy(3);
+    QCOMPARE(rect.lineWidthPix(), 1.0);
+    rect.setLineWidthPix(8);
+    QCOMPARE(rect.lineWidthPhy(), 3.0);
+}
+
+void TestPrototypeSettings::remainingInitialValues()
+{
+    const P object;
+    QCOMPARE(static_cast<int>(object.objType()), -1);
+    QCOMPARE(object.isModified(), false);
+    QCOMPARE(object.isBindingToDB(), false);
+    QVERIFY(object.contentData().isNull());
+    QVERIFY(object.presetData().isNull());
+    QCOMPARE(object.phyPos(), QPointF());
+    QCOMPARE(object.phyWidth(), 0.0);
+    QCOMPARE(object.phyHeight(), 0.0);
+    QCOMPARE(object.toolTip(), QString());
+    QCOMPARE(object.parentItem(), nullptr);
+    QCOMPARE(object.zValue(), 0.0);
+}
+
+void TestPrototypeSettings::bindingMarksModified()
+{
+    P object;
+    object.bindToDB(QStringLiteral("cheques"), QStringLiteral("payee"));
+    QVERIFY(object.isModified());
+    object.setIsModified(false);
+    object.unbindToDB();
+    QVERIFY(object.isModified());
+    object.setIsModified(false);
+    object.bindToDB({QStringLiteral("cheques"), QStringLiteral("payee")});
+    QVERIFY(object.isModified());
+}
+
+void TestPrototypeSettings::binding()
+{
+    P object;
+    object.bindToDB(QStringLiteral("cheques"), QString());
+    QVERIFY(!object.isBindingToDB());
+    object.bindToDB(QString(), QStringLiteral("payee"));
+    QVERIFY(!object.isBindingToDB());
+    object.bindToDB(_Database_Table_Col{QStringLiteral("vouchers"), QStringLiteral("amount")});
+    QVERIFY(object.isBindingToDB());
+    QCOMPARE(object.tableColDB().table, QStringLiteral("vouchers"));
+    QCOMPARE(object.tableColDB().column, QStringLiteral("amount"));
+    object.unbindToDB();
+    QVERIFY(!object.isBindingToDB());
+    QCOMPARE(object.tableDB(), QString());
+    QCOMPARE(object.columnDB(), QString());
+}
+
+void TestPrototypeSettings::identifierIsTheToolTip()
+{
+    P object;
+    QSignalSpy changed(&object, &P::tavroIDChanged);
+    // Listeners read the identifier; the mark and the tool tip follow.
+    QString seen;
+    connect(&object, &P::tavroIDChanged, [&] { seen = object.tavroID(); });
+    object.setTavroID(QStringLiteral("payee"));
+    QCOMPARE(seen, QStringLiteral("payee"));
+    QCOMPARE(object.toolTip(), QStringLiteral("payee"));
+    object.setTavroID(QStringLiteral("payee"));
+    QCOMPARE(changed.count(), 2);
+}
+
+// The two rectangles, the two physical sizes and the binding have fields of their own.
+void TestPrototypeSettings::settersTouchTheirFieldOnly()
+{
+    const QVector<Setting<P>> table = settings();
+    const QStringList sharing{QStringLiteral("objX"),    QStringLiteral("objY"),    QStringLiteral("objPos"),
+                              QStringLiteral("width"),   QStringLiteral("height"),  QStringLiteral("boundingRect"),
+                              QStringLiteral("tableDB"), QStringLiteral("columnDB")};
+    for (const Setting<P> &written : table) {
+        P object;
+        written.write(object);
+        for (const Setting<P> &other : table) {
+            if (other.name == written.name ||
+                (sharing.contains(QLatin1String(written.name)) && sharing.contains(QLatin1String(other.name))))
+                continue;
+            QVERIFY2(other.isInitial(object),
+                     qPrintable(
+                         QStringLiteral("%1 changed %2").arg(QLatin1String(written.name), QLatin1String(other.name))));
+        }
+    }
+}
+
+QTEST_MAIN(TestPrototypeSettings)
+#include "tst_prototypesettings.moc"
