@@ -36,6 +36,7 @@ void UserPatternTest::matches_data()
     };
     add("empty pattern", QString(), QStringLiteral("anything"), true);
     add("empty pattern, empty text", QString(), QString(), true);
+    add("empty pattern, half of a surrogate pair", QString(), QString(QChar(0xd800)), true);
     add("whole text", QStringLiteral("[0-9]+"), QStringLiteral("12"), true);
     add("text before the match", QStringLiteral("[0-9]+"), QStringLiteral("a12"), false);
     add("text behind the match", QStringLiteral("[0-9]+"), QStringLiteral("12a"), false);
