@@ -2,6 +2,7 @@
 #include "desk/setting.h"
 
 #include <QStringList>
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -12,12 +13,19 @@ bool isWhole(double number)
     return number == std::floor(number) && std::abs(number) <= std::numeric_limits<int>::max();
 }
 
+bool isHexDigit(QChar character)
+{
+    const char digit = character.toLatin1();
+    return (digit >= '0' && digit <= '9') || (digit >= 'a' && digit <= 'f') || (digit >= 'A' && digit <= 'F');
+}
+
+// toUInt() alone takes signs, spaces and "0x" too.
 QVariant colorFrom(const QString &text, int digits)
 {
-    bool isHex = false;
-    const unsigned int color = text.mid(1).toUInt(&isHex, 16);
-    const bool isColor = isHex && text.size() == digits + 1 && text.startsWith(QLatin1Char('#'));
-    return isColor ? QVariant(color) : QVariant();
+    if (text.size() != digits + 1 || text.at(0) != QLatin1Char('#') ||
+        !std::all_of(text.begin() + 1, text.end(), isHexDigit))
+        return {};
+    return text.mid(1).toUInt(nullptr, 16);
 }
 
 QString colorText(unsigned int color, int digits)
