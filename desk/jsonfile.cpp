@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "desk/jsonfile.h"
 
+#include "desk/messages.h"
+
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -30,6 +32,26 @@ int endOfString(const QByteArray &json, int quote)
     return i;
 }
 
+// Text of a string in its quotation marks.
+QString unquoted(const QByteArray &string)
+{
+    return QJsonDocument::fromJson('[' + string + ']').array().first().toString();
+}
+
+// Half of a surrogate pair can be escaped in JSON, but not written to a file: the next rewrite would lose it.
+bool isWhole(const QString &text)
+{
+    for (int i = 0; i < text.size(); ++i) {
+        if (!text.at(i).isSurrogate())
+            continue;
+        const bool isPair = text.at(i).isHighSurrogate() && i + 1 < text.size() && text.at(i + 1).isLowSurrogate();
+        if (!isPair)
+            return false;
+        ++i;
+    }
+    return true;
+}
+
 bool isName(const QByteArray &json, int afterString)
 {
     int i = afterString;
@@ -38,35 +60,40 @@ bool isName(const QByteArray &json, int afterString)
     return i < json.size() && json.at(i) == ':';
 }
 
-// Offset of a name that stands for the second time in its object, -1 without one. The text is well-formed JSON.
-int secondName(const QByteArray &json)
+// Whether the name is new.
+bool addName(const QString &name, QSet<QString> *names)
+{
+    const int before = names->size();
+    names->insert(name);
+    return names->size() > before;
+}
+
+struct Flaw
+{
+    int offset = -1; ///< -1 without a flaw
+    QString expected;
+};
+
+// Looks for what well-formed JSON may hold and a value in memory cannot.
+Flaw firstFlaw(const QByteArray &json)
 {
     QVector<QSet<QString>> names;
     for (int i = 0; i < json.size(); ++i) {
-        switch (json.at(i)) {
-        case '{':
+        if (json.at(i) == '{') {
             names.append(QSet<QString>());
-            break;
-        case '}':
+        } else if (json.at(i) == '}') {
             names.removeLast();
-            break;
-        case '"': {
+        } else if (json.at(i) == '"') {
             const int end = endOfString(json, i);
-            if (isName(json, end + 1)) {
-                const QByteArray quoted = json.mid(i, end - i + 1);
-                const QString name = QJsonDocument::fromJson('[' + quoted + ']').array().first().toString();
-                if (names.last().contains(name))
-                    return i;
-                names.last().insert(name);
-            }
+            const QByteArray string = json.mid(i, end - i + 1);
+            if (string.contains('\\') && !isWhole(unquoted(string)))
+                return {i, QStringLiteral("whole characters")};
+            if (isName(json, end + 1) && !addName(unquoted(string), &names.last()))
+                return {i, QStringLiteral("each name once in an object")};
             i = end;
-            break;
-        }
-        default:
-            break;
         }
     }
-    return -1;
+    return {};
 }
 
 QString described(const QJsonValue &value)
@@ -78,13 +105,8 @@ QString described(const QJsonValue &value)
         return value.toBool() ? QStringLiteral("true") : QStringLiteral("false");
     case QJsonValue::Double:
         return QString::number(value.toDouble(), 'g', 15);
-    case QJsonValue::String: {
-        constexpr int mostCharacters = 60;
-        const QString text = value.toString();
-        return QLatin1Char('"') +
-               (text.size() > mostCharacters ? text.left(mostCharacters) + QStringLiteral("...") : text) +
-               QLatin1Char('"');
-    }
+    case QJsonValue::String:
+        return messages::quoted(value.toString());
     case QJsonValue::Array:
         return QStringLiteral("an array of %1").arg(value.toArray().size());
     case QJsonValue::Object:
@@ -99,31 +121,32 @@ QString described(const QJsonValue &value)
 
 Content read(const QString &fileName)
 {
+    const auto fail = [&fileName](const QString &what) {
+        return Content{{}, messages::oneLine(QStringLiteral("%1: %2").arg(fileName, what))};
+    };
     QFile file(fileName);
     if (!file.open(QIODevice::ReadOnly))
-        return {{}, QStringLiteral("%1: cannot be read: %2").arg(fileName, file.errorString())};
+        return fail(QStringLiteral("cannot be read: %1").arg(file.errorString()));
     const QByteArray bytes = file.read(MostBytes + 1);
     if (bytes.size() > MostBytes)
-        return {{}, QStringLiteral("%1: expected a JSON file of at most %2 bytes").arg(fileName).arg(MostBytes)};
+        return fail(QStringLiteral("expected a JSON file of at most %1 bytes").arg(MostBytes));
     QJsonParseError problem;
     const QJsonDocument document = QJsonDocument::fromJson(bytes, &problem);
     if (problem.error != QJsonParseError::NoError)
-        return {{},
-                QStringLiteral("%1: %2: expected JSON: %3")
-                    .arg(fileName, lineAndColumn(bytes, problem.offset), problem.errorString())};
+        return fail(
+            QStringLiteral("%1: expected JSON: %2").arg(lineAndColumn(bytes, problem.offset), problem.errorString()));
     if (!document.isObject())
-        return {{}, QStringLiteral("%1: expected a JSON object, found an array").arg(fileName)};
-    const int second = secondName(bytes);
-    if (second >= 0)
-        return {
-            {},
-            QStringLiteral("%1: %2: expected each name once in an object").arg(fileName, lineAndColumn(bytes, second))};
+        return fail(QStringLiteral("expected a JSON object, found an array"));
+    const Flaw flaw = firstFlaw(bytes);
+    if (flaw.offset >= 0)
+        return fail(QStringLiteral("%1: expected %2").arg(lineAndColumn(bytes, flaw.offset), flaw.expected));
     return {document.object(), QString()};
 }
 
 QString mismatch(const QString &fileName, const QString &path, const QString &expected, const QJsonValue &found)
 {
-    return QStringLiteral("%1: %2: expected %3, found %4").arg(fileName, path, expected, described(found));
+    return messages::oneLine(
+        QStringLiteral("%1: %2: expected %3, found %4").arg(fileName, path, expected, described(found)));
 }
 
 } // namespace jsonfile

@@ -15,7 +15,7 @@ struct Content
 };
 
 /// The object that the whole file is. A name that stands twice in one object is an error: one of the two values would
-/// be lost without a word.
+/// be lost without a word. So is half of a surrogate pair.
 Content read(const QString &fileName);
 
 /// "file: path: expected what, found what"
