@@ -2,6 +2,8 @@
 #include "desk/form.h"
 
 #include "core/tavrotext.h"
+#include "graphic/tavroline.h"
+#include "graphic/tavrorect.h"
 
 Form::Form()
 {
@@ -23,6 +25,8 @@ void Form::addObject(TavroPrototype *object, const QRectF &millimetres, const QJ
 
 TavroPrototype *Form::objectWithId(const QString &id) const
 {
+    if (id.isEmpty())
+        return nullptr;
     for (const Entry &entry : entries) {
         if (entry.object && entry.object->tavroID() == id)
             return entry.object;
@@ -38,6 +42,10 @@ void Form::setGeometry(TavroPrototype *object, const QRectF &millimetres) const
     object->setBoundingRect({millimetres.topLeft() * scale, millimetres.size() * scale});
     if (auto *text = qobject_cast<TavroText *>(object))
         text->syncFontPixSz();
+    else if (auto *line = qobject_cast<TavroLine *>(object))
+        line->setLineWidthPix(line->lineWidthPhy() * scale);
+    else if (auto *rect = qobject_cast<TavroRect *>(object))
+        rect->setLineWidthPix(rect->lineWidthPhy() * scale);
 }
 
 void Form::fitTexts() const

@@ -42,9 +42,9 @@ public:
     QRectF pageRect() const;
     /// Takes an object of the library onto the scene; both rectangles are set from millimetres.
     void addObject(TavroPrototype *object, const QRectF &millimetres, const QJsonObject &unknownSettings = {});
-    /// The object with the identifier, null without one.
+    /// The object with the identifier, null without one. The empty text identifies nothing.
     TavroPrototype *objectWithId(const QString &id) const;
-    /// Puts the object at its place in millimetres and in pixels.
+    /// Puts the object at its place in millimetres and in pixels, with the line width or font size of its scale.
     void setGeometry(TavroPrototype *object, const QRectF &millimetres) const;
     /// Brings the fonts up to date with text and geometry, which objects else do when the event loop turns.
     void fitTexts() const;
