@@ -6,10 +6,10 @@
 #include "desk/catalogue.h"
 #include "desk/form.h"
 #include "desk/formwords.h"
+#include "desk/wholefile.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QSaveFile>
 #include <map>
 #include <memory>
 
@@ -78,11 +78,7 @@ QByteArray toBytes(const Form &form)
 
 QString write(const Form &form, const QString &fileName)
 {
-    QSaveFile file(fileName);
-    const QByteArray bytes = toBytes(form);
-    if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit())
-        return {};
-    return QStringLiteral("%1: cannot be written: %2").arg(fileName, file.errorString());
+    return wholefile::write(fileName, toBytes(form));
 }
 
 } // namespace formwriter

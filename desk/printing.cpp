@@ -3,13 +3,14 @@
 
 #include "core/tavroprototype.h"
 #include "desk/form.h"
+#include "desk/messages.h"
+#include "desk/wholefile.h"
 
 #include <QBuffer>
 #include <QFileInfo>
 #include <QImage>
 #include <QPainter>
 #include <QPdfWriter>
-#include <QSaveFile>
 #include <QSvgGenerator>
 #include <QVector>
 
@@ -130,11 +131,8 @@ QString write(Form *form, const QString &fileName, int dpi)
     prepare(form);
     const QString error = format->encode(form, &bytes, dpi);
     if (!error.isEmpty())
-        return QStringLiteral("%1: %2").arg(fileName, error);
-    QSaveFile file(fileName);
-    if (file.open(QIODevice::WriteOnly) && file.write(bytes.data()) == bytes.size() && file.commit())
-        return {};
-    return QStringLiteral("%1: cannot be written: %2").arg(fileName, file.errorString());
+        return messages::oneLine(QStringLiteral("%1: %2").arg(fileName, error));
+    return wholefile::write(fileName, bytes.data());
 }
 
 } // namespace printing
