@@ -124,7 +124,7 @@ QJsonValue otherValue(ObjType kind, const QString &key)
     return {};
 }
 
-std::unique_ptr<Form> read(const QJsonObject &file)
+std::unique_ptr<Form> readFile(const QJsonObject &file)
 {
     formreader::Result result = formreader::fromJson(file, QStringLiteral("test.tform"));
     if (!result.form)
@@ -132,9 +132,9 @@ std::unique_ptr<Form> read(const QJsonObject &file)
     return std::move(result.form);
 }
 
-std::unique_ptr<Form> read(const QJsonArray &objects)
+std::unique_ptr<Form> formWith(const QJsonArray &objects)
 {
-    return read(file(objects));
+    return readFile(file(objects));
 }
 
 bool write(const QString &fileName, const QByteArray &bytes)

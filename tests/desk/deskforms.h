@@ -30,8 +30,8 @@ QJsonObject fullFile();
 QJsonValue otherValue(ObjType kind, const QString &key);
 
 /// The form of a file, null after a failed test condition where it is none.
-std::unique_ptr<Form> read(const QJsonObject &file);
-std::unique_ptr<Form> read(const QJsonArray &objects);
+std::unique_ptr<Form> readFile(const QJsonObject &file);
+std::unique_ptr<Form> formWith(const QJsonArray &objects);
 
 /// Writes a whole file; false where that fails.
 bool write(const QString &fileName, const QByteArray &bytes);
