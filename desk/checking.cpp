@@ -5,6 +5,7 @@
 #include "entry/tavroedit.h"
 
 #include <QGlyphRun>
+#include <QRawFont>
 #include <QTextLayout>
 #include <algorithm>
 
@@ -26,6 +27,18 @@ struct Extent
     qreal inkBottom = 0; ///< of the glyphs, from the top of the first line
 };
 
+// A run of a layout answers the box of its line as its bounding rectangle, so the glyphs are asked one by one.
+QRectF inkOf(const QGlyphRun &run)
+{
+    const QRawFont font = run.rawFont();
+    const QVector<quint32> glyphs = run.glyphIndexes();
+    const QVector<QPointF> positions = run.positions();
+    QRectF ink;
+    for (int i = 0; i < glyphs.size(); ++i)
+        ink |= font.boundingRect(glyphs.at(i)).translated(positions.at(i));
+    return ink;
+}
+
 // Lays the text out as a painter does that draws it into a rectangle of the width.
 Extent extentOf(QString text, const QFont &font, const QTextOption &option, qreal width)
 {
@@ -44,7 +57,7 @@ Extent extentOf(QString text, const QFont &font, const QTextOption &option, qrea
     layout.endLayout();
     const QList<QGlyphRun> runs = layout.glyphRuns();
     for (const QGlyphRun &run : runs)
-        ink |= run.boundingRect();
+        ink |= inkOf(run);
     extent.inkTop = ink.top();
     extent.inkBottom = ink.bottom();
     return extent;

@@ -4,6 +4,8 @@
 #include "core/tavrotext.h"
 #include "graphic/tavroline.h"
 #include "graphic/tavrorect.h"
+#include "graphic/tavroline.h"
+#include "graphic/tavrorect.h"
 
 Form::Form()
 {
@@ -42,6 +44,10 @@ void Form::setGeometry(TavroPrototype *object, const QRectF &millimetres) const
     object->setBoundingRect({millimetres.topLeft() * scale, millimetres.size() * scale});
     if (auto *text = qobject_cast<TavroText *>(object))
         text->syncFontPixSz();
+    else if (auto *line = qobject_cast<TavroLine *>(object))
+        line->setLineWidthPix(line->lineWidthPhy() * scale);
+    else if (auto *rect = qobject_cast<TavroRect *>(object))
+        rect->setLineWidthPix(rect->lineWidthPhy() * scale);
     else if (auto *line = qobject_cast<TavroLine *>(object))
         line->setLineWidthPix(line->lineWidthPhy() * scale);
     else if (auto *rect = qobject_cast<TavroRect *>(object))
