@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "desk/record.h"
 
-#include "core/tavroprototype.h"
+#include "core/tavrotext.h"
 #include "desk/form.h"
 #include "desk/jsonfile.h"
 
@@ -54,8 +54,11 @@ Result fillFromJson(Form *form, const QJsonObject &json, const QString &fileName
         else if (!isIdOfUnknownKind(*form, it.key()))
             result.unknownIds.append(it.key());
     }
-    for (const auto &[object, content] : qAsConst(values))
+    for (const auto &[object, content] : qAsConst(values)) {
         object->setContentData(content);
+        if (auto *text = qobject_cast<TavroText *>(object))
+            text->adjustTextStyle();
+    }
     return result;
 }
 

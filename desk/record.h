@@ -15,7 +15,8 @@ struct Result
     QStringList unknownIds; ///< identifiers that no object of the form has; their values are on no paper
 };
 
-/// Sets the values of the file; the form keeps its values where the file is in error.
+/// Sets the values of the file and fits their fonts, so that the form can be printed in the same turn; the form keeps
+/// its values where the file is in error.
 Result fill(Form *form, const QString &fileName);
 Result fillFromJson(Form *form, const QJsonObject &json, const QString &fileName);
 

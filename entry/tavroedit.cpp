@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "entry/tavroedit.h"
 
-#include "core/paintersaver.h"
 #include "entry/chineseamount.h"
 #include "entry/englishamount.h"
 #include "entry/inputformat.h"
@@ -68,8 +67,20 @@ void TavroEdit::setContentData(const QVariant &content)
     TavroPrototype::setContentData(value);
     syncTextEditContent();
     convertIfValid(textOf(value));
-    // The geometry that follows in the same turn, as when a form is loaded, is fitted once.
-    QTimer::singleShot(0, this, &TavroEdit::adjustTextStyle);
+    postAdjustTextStyle();
+}
+
+// The geometry that follows in the same turn, as when a form is loaded, is fitted once. One shot at a time: a batch that
+// never lets the event loop turn must not pile them up.
+void TavroEdit::postAdjustTextStyle()
+{
+    if (m_isFitPosted)
+        return;
+    m_isFitPosted = true;
+    QTimer::singleShot(0, this, [this] {
+        m_isFitPosted = false;
+        adjustTextStyle();
+    });
 }
 
 void TavroEdit::setPresetData(const QVariant &preset)
@@ -352,9 +363,10 @@ QString TavroEdit::sumOfNumString(const QString &a, const QString &b) const
     return ::sumOfNumString(a, b);
 }
 
+// Neither saves the painter: nothing is drawn after them that does not set its own pen, the scene protects its items from
+// each other, and on paper the saving would cost as much as the text.
 void TavroEdit::drawEditContent(QPainter *painter)
 {
-    const PainterSaver saver(painter);
     painter->setPen(QColor(fontColor()));
     painter->setFont(font());
     painter->drawText(boundingRect(), prefix() + m_displayText, textOption());
@@ -365,7 +377,6 @@ void TavroEdit::drawPlaceholder(QPainter *painter)
     QFont plain = font();
     plain.setWeight(QFont::Normal);
     plain.setStyle(QFont::StyleNormal);
-    const PainterSaver saver(painter);
     painter->setPen(QPen(Qt::gray, 1));
     painter->setFont(plain);
     painter->drawText(boundingRect(), m_placeholder, textOption());
@@ -407,8 +418,11 @@ void TavroEdit::syncTextEditContent()
 {
     if (!m_editor)
         return;
+    const QString text = contentText();
+    if (m_editor->toPlainText() == text)
+        return;
     const QSignalBlocker blocker(m_editor);
-    m_editor->setPlainText(contentText());
+    m_editor->setPlainText(text);
 }
 
 void TavroEdit::syncTextEditGeometry()

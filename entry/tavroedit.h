@@ -80,7 +80,7 @@ public:
     /// Sum of two strings of decimal digits of any length, as wide as the longer one.
     QString sumOfNumString(const QString &a, const QString &b) const;
 
-    // painting
+    // painting; pen and font of the painter stay as they were set
     void drawEditContent(QPainter *painter);
     void drawPlaceholder(QPainter *painter);
 
@@ -110,6 +110,7 @@ protected:
 
 private:
     QString contentText() const;
+    void postAdjustTextStyle();
     void convertIfValid(const QString &text);
 
     QPointer<TextEdit> m_editor;
@@ -123,4 +124,5 @@ private:
     QString m_placeholder;
     bool m_addZeroBeforeThousand = false;
     bool m_addZeroBeforeJiao = false;
+    bool m_isFitPosted = false;
 };

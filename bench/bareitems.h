@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QFont>
+#include <QGraphicsItem>
+#include <QPen>
+#include <QTextOption>
+
+/// What a program without the library would put on its scene: items that draw the same, and can nothing else.
+
+class BareLine : public QGraphicsItem
+{
+public:
+    BareLine(const QRectF &rect, const QPen &pen);
+    QRectF boundingRect() const override;
+    void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget) override;
+
+private:
+    QRectF m_rect;
+    QPen m_pen;
+};
+
+class BareRect : public QGraphicsItem
+{
+public:
+    BareRect(const QRectF &rect, const QPen &pen);
+    QRectF boundingRect() const override;
+    void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget) override;
+
+private:
+    QRectF m_rect;
+    QPen m_pen;
+};
+
+class BareText : public QGraphicsItem
+{
+public:
+    BareText(const QRectF &rect, const QString &text, const QFont &font, const QTextOption &option, const QColor &color);
+    QRectF boundingRect() const override;
+    void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget) override;
+    void setText(const QString &text);
+    void setFont(const QFont &font);
+
+private:
+    QRectF m_rect;
+    QString m_text;
+    QFont m_font;
+    QTextOption m_option;
+    QColor m_color;
+};
