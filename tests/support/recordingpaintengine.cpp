@@ -126,6 +126,10 @@ int RecordingDevice::metric(PaintDeviceMetric metric) const
     case PdmPhysicalDpiX:
     case PdmPhysicalDpiY:
         return 96;
+    case PdmDevicePixelRatio:
+        return 1;
+    case PdmDevicePixelRatioScaled:
+        return qRound(devicePixelRatioFScale());
     case PdmDepth:
         return 32;
     case PdmNumColors:
