@@ -44,7 +44,6 @@ private Q_SLOTS:
     void settersStore();
     void formatReachesPatternAndEditor_data();
     void formatReachesPatternAndEditor();
-    void matchPatternFollowsOnlyWhenSynchronised();
     void contentReachesTheEditor_data();
     void contentReachesTheEditor();
     void editorFollowsSilently();
@@ -211,16 +210,6 @@ void TestTavroEditSettings::formatReachesPatternAndEditor()
     QCOMPARE(int(edit.formatType()), format);
     QCOMPARE(int(editorOf(edit)->formatType()), format);
     QCOMPARE(edit.matchPattern(), pattern);
-}
-
-void TestTavroEditSettings::matchPatternFollowsOnlyWhenSynchronised()
-{
-    TavroEdit edit;
-    edit.setFormatType(Format_SerialNumber);
-    edit.syncMatchRegExp();
-    QCOMPARE(edit.matchPattern(), QStringLiteral("^[0-9]+$"));
-    edit.setFormatType(Format_FreeText);
-    QCOMPARE(edit.matchPattern(), QString());
 }
 
 void TestTavroEditSettings::contentReachesTheEditor_data()
