@@ -3,7 +3,11 @@
 
 #include <QPainter>
 
-BareLine::BareLine(const QRectF &rect, const QPen &pen) : m_rect(rect), m_pen(pen) {}
+BareLine::BareLine(const QRectF &rect, const QPen &pen)
+    : m_rect(rect)
+    , m_pen(pen)
+{
+}
 
 QRectF BareLine::boundingRect() const
 {
@@ -17,7 +21,11 @@ void BareLine::paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWidge
     painter->drawLine(m_rect.topLeft(), m_rect.bottomRight());
 }
 
-BareRect::BareRect(const QRectF &rect, const QPen &pen) : m_rect(rect), m_pen(pen) {}
+BareRect::BareRect(const QRectF &rect, const QPen &pen)
+    : m_rect(rect)
+    , m_pen(pen)
+{
+}
 
 QRectF BareRect::boundingRect() const
 {
@@ -34,7 +42,11 @@ void BareRect::paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWidge
 
 BareText::BareText(const QRectF &rect, const QString &text, const QFont &font, const QTextOption &option,
                    const QColor &color)
-    : m_rect(rect), m_text(text), m_font(font), m_option(option), m_color(color)
+    : m_rect(rect)
+    , m_text(text)
+    , m_font(font)
+    , m_option(option)
+    , m_color(color)
 {
 }
 

@@ -35,7 +35,8 @@ private:
 class BareText : public QGraphicsItem
 {
 public:
-    BareText(const QRectF &rect, const QString &text, const QFont &font, const QTextOption &option, const QColor &color);
+    BareText(const QRectF &rect, const QString &text, const QFont &font, const QTextOption &option,
+             const QColor &color);
     QRectF boundingRect() const override;
     void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget) override;
     void setText(const QString &text);

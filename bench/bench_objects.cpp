@@ -159,6 +159,6 @@ int main(int argc, char **argv)
     add("repaintForm", repaintForm);
     add("constructBareProxies", constructBareProxies);
     add("constructEdits", constructEdits);
-    return runWithRatios(
-        argc, argv, {{"repaintForm", "repaintBareItems", 1.15}, {"constructEdits", "constructBareProxies", 1.25}});
+    return runWithRatios(argc, argv,
+                         {{"repaintForm", "repaintBareItems", 1.15}, {"constructEdits", "constructBareProxies", 1.25}});
 }

@@ -96,7 +96,8 @@ void printForm(Form *form, int pages)
 class BareCheques
 {
 public:
-    BareCheques() : m_form(cheque())
+    BareCheques()
+        : m_form(cheque())
     {
         m_scene.setItemIndexMethod(QGraphicsScene::NoIndex);
         m_form->fitTexts();

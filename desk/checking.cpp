@@ -2,6 +2,7 @@
 #include "desk/checking.h"
 
 #include "desk/form.h"
+#include "desk/messages.h"
 #include "entry/tavroedit.h"
 
 #include <QGlyphRun>
@@ -75,22 +76,30 @@ qreal topOf(const QRectF &rect, qreal height, Qt::Alignment alignment)
 QString named(const TavroPrototype &object, int index)
 {
     const QString place = QStringLiteral("objects[%1]").arg(index);
-    return object.tavroID().isEmpty() ? place : QStringLiteral("%1 \"%2\"").arg(place, object.tavroID());
+    return object.tavroID().isEmpty() ? place : QStringLiteral("%1 %2").arg(place, messages::quoted(object.tavroID()));
+}
+
+// What is invisible while the form is filled in is not printed either.
+bool isPrinted(const TavroEdit &edit)
+{
+    return edit.isPrint() && edit.isObjVisible();
 }
 
 // An empty value is missing where it is required, and no mistake where it is not, whatever its format.
 QString problemOf(TavroEdit *edit)
 {
     const QString content = edit->contentData().toString();
-    if (content.trimmed().isEmpty())
-        return edit->isRequired() ? QStringLiteral("required, but missing") : QString();
-    if (!edit->isValid())
-        return QStringLiteral("invalid value \"%1\"").arg(content);
+    const bool isEmpty = content.trimmed().isEmpty();
+    if (isEmpty && edit->isRequired())
+        return QStringLiteral("required, but missing");
+    if (!isEmpty && !edit->isValid())
+        return QStringLiteral("invalid value %1").arg(messages::quoted(content));
     const QString shown = edit->displayText();
     if (edit->isRequired() && shown.trimmed().isEmpty())
-        return QStringLiteral("required, but \"%1\" prints nothing").arg(content);
-    if (edit->isPrint() && !textFits(*edit, edit->prefix() + shown))
-        return QStringLiteral("text does not fit its rectangle: \"%1\"").arg(edit->prefix() + shown);
+        return QStringLiteral("required, but %1 prints nothing").arg(messages::quoted(content));
+    const QString text = edit->prefix() + shown;
+    if (isPrinted(*edit) && !textFits(*edit, text))
+        return QStringLiteral("text does not fit its rectangle: %1").arg(messages::quoted(text));
     return {};
 }
 
@@ -100,7 +109,7 @@ bool textFits(const TavroText &object, const QString &text)
 {
     if (text.trimmed().isEmpty())
         return true;
-    const QRectF rect = object.boundingRect().normalized();
+    const QRectF rect = object.boundingRect();
     const QTextOption option = object.textOption();
     const Extent extent = extentOf(text, object.font(), option, rect.width());
     const qreal top = topOf(rect, extent.height, option.alignment());
@@ -112,7 +121,7 @@ QStringList problems(const Form &form)
 {
     QStringList found;
     for (const QString &name : form.unknownNames())
-        found.append(QStringLiteral("unknown %1").arg(name));
+        found.append(messages::oneLine(QStringLiteral("unknown %1").arg(name)));
     form.fitTexts();
     int index = 0;
     for (const Form::Entry &entry : form.entries) {

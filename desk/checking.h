@@ -14,6 +14,7 @@ namespace checking {
 QStringList problems(const Form &form);
 
 /// Whether the text of the object is printed whole: no line wider than the rectangle, and no ink above or below it.
+/// Into a rectangle of negative size no text fits.
 bool textFits(const TavroText &object, const QString &text);
 
 } // namespace checking

@@ -4,8 +4,6 @@
 #include "core/tavrotext.h"
 #include "graphic/tavroline.h"
 #include "graphic/tavrorect.h"
-#include "graphic/tavroline.h"
-#include "graphic/tavrorect.h"
 
 Form::Form()
 {
@@ -44,14 +42,10 @@ void Form::setGeometry(TavroPrototype *object, const QRectF &millimetres) const
     object->setBoundingRect({millimetres.topLeft() * scale, millimetres.size() * scale});
     if (auto *text = qobject_cast<TavroText *>(object))
         text->syncFontPixSz();
-    else if (auto *line = qobject_cast<TavroLine *>(object))
-        line->setLineWidthPix(line->lineWidthPhy() * scale);
-    else if (auto *rect = qobject_cast<TavroRect *>(object))
-        rect->setLineWidthPix(rect->lineWidthPhy() * scale);
-    else if (auto *line = qobject_cast<TavroLine *>(object))
-        line->setLineWidthPix(line->lineWidthPhy() * scale);
-    else if (auto *rect = qobject_cast<TavroRect *>(object))
-        rect->setLineWidthPix(rect->lineWidthPhy() * scale);
+    else if (auto *rule = qobject_cast<TavroLine *>(object))
+        rule->setLineWidthPix(rule->lineWidthPhy() * scale);
+    else if (auto *frame = qobject_cast<TavroRect *>(object))
+        frame->setLineWidthPix(frame->lineWidthPhy() * scale);
 }
 
 void Form::fitTexts() const

@@ -20,6 +20,9 @@ namespace {
 
 constexpr double MillimetresPerInch = 25.4;
 
+// An SVG has a whole number of units: hundredths of a millimetre are fine enough for its size to be true.
+constexpr int SvgDpi = 2540;
+
 // Images beyond a gigabyte are a slip of the keyboard, not a picture of a form.
 constexpr double MostPixels = 256.0 * 1024 * 1024;
 
@@ -69,15 +72,15 @@ QString toPng(Form *form, QBuffer *bytes, int dpi)
     return image.save(bytes, "PNG") ? QString() : QStringLiteral("the image cannot be encoded");
 }
 
-QString toSvg(Form *form, QBuffer *bytes, int dpi)
+QString toSvg(Form *form, QBuffer *bytes, int)
 {
-    const QRectF page = pageAt(*form, dpi);
+    const QSize size(qRound(pageAt(*form, SvgDpi).width()), qRound(pageAt(*form, SvgDpi).height()));
     QSvgGenerator generator;
     generator.setOutputDevice(bytes);
-    generator.setResolution(dpi);
-    generator.setSize(QSize(qRound(page.width()), qRound(page.height())));
-    generator.setViewBox(page);
-    return paint(form, &generator, dpi);
+    generator.setResolution(SvgDpi);
+    generator.setSize(size);
+    generator.setViewBox(QRect(QPoint(0, 0), size));
+    return paint(form, &generator, SvgDpi);
 }
 
 struct Format

@@ -24,7 +24,7 @@ void paintPage(QPainter *painter, Form *form, const QRectF &target);
 bool isKnownFormat(const QString &fileName);
 
 /// Writes the whole file or, on an error, nothing; the result is one line that says what went wrong, else empty.
-/// `dpi` is the resolution of a PNG and the grid of a PDF or SVG, from LeastDpi to MostDpi.
+/// `dpi` is the resolution of a PNG and the grid of a PDF, from LeastDpi to MostDpi; an SVG has a grid of its own.
 QString write(Form *form, const QString &fileName, int dpi);
 
 } // namespace printing

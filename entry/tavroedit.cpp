@@ -70,8 +70,8 @@ void TavroEdit::setContentData(const QVariant &content)
     postAdjustTextStyle();
 }
 
-// The geometry that follows in the same turn, as when a form is loaded, is fitted once. One shot at a time: a batch that
-// never lets the event loop turn must not pile them up.
+// The geometry that follows in the same turn, as when a form is loaded, is fitted once. One shot at a time: a batch
+// that never lets the event loop turn must not pile them up.
 void TavroEdit::postAdjustTextStyle()
 {
     if (m_isFitPosted)
@@ -363,8 +363,8 @@ QString TavroEdit::sumOfNumString(const QString &a, const QString &b) const
     return ::sumOfNumString(a, b);
 }
 
-// Neither saves the painter: nothing is drawn after them that does not set its own pen, the scene protects its items from
-// each other, and on paper the saving would cost as much as the text.
+// Neither saves the painter: nothing is drawn after them that does not set its own pen, the scene protects its items
+// from each other, and on paper the saving would cost as much as the text.
 void TavroEdit::drawEditContent(QPainter *painter)
 {
     painter->setPen(QColor(fontColor()));
