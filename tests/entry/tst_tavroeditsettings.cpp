@@ -454,9 +454,9 @@ void TestTavroEditSettings::fontIsFittedToTheShownText()
     edit.setIsUnderline(true);
     edit.setIsStrikeOut(true);
     edit.setTextFillingRule(static_cast<Text_Filling_Rule>(rule));
-    edit.setPrefix(QStringLiteral("USD "));
+    edit.setPrefix(QStringLiteral("PAID "));
     edit.setFormatType(Format_EnglishAmount);
-    edit.setContentData(QStringLiteral("1234567.89"));
+    edit.setContentData(QStringLiteral("20.05"));
     edit.setFont(QFont(QStringLiteral("DejaVu Serif"), 40));
     edit.adjustTextStyle();
 
@@ -476,9 +476,13 @@ void TestTavroEditSettings::fontIsFittedToTheShownText()
     QCOMPARE(edit.font(), expected);
     QCOMPARE(editorOf(edit)->font().family(), expected.family());
     if (rule == Fill_Shrink || rule == Fill_WrapShrink) {
-        // the words are much longer than the content, which would fit as it is
-        QVERIFY(edit.font().pixelSize() < settings.pixelSize());
-        QCOMPARE(edit.font_Shrink(edit.prefix() + edit.contentData().toString()).pixelSize(), settings.pixelSize());
+        // neither the content nor the words alone take as small a font
+        const auto sizeFor = [&edit, rule](const QString &fitted) {
+            const QFont font = rule == Fill_Shrink ? edit.font_Shrink(fitted) : edit.font_wordWrapAndShrink(fitted);
+            return font.pixelSize();
+        };
+        QVERIFY(edit.font().pixelSize() < sizeFor(edit.displayText()));
+        QVERIFY(edit.font().pixelSize() < sizeFor(edit.prefix() + edit.contentData().toString()));
     }
 
     edit.setIsBold(false);
