@@ -5,6 +5,7 @@
 #include "desk/fonts.h"
 #include "desk/form.h"
 #include "desk/formreader.h"
+#include "desk/messages.h"
 #include "desk/printing.h"
 #include "desk/record.h"
 
@@ -69,6 +70,8 @@ QString parse(const QStringList &arguments, Request *request)
         return QStringLiteral("expected the command print or check");
     if (positional.size() != 2)
         return QStringLiteral("expected one form file");
+    if (parser.isSet(data) && request->dataFile.isEmpty())
+        return QStringLiteral("--data: expected the name of a record");
     if (!prints && (parser.isSet(output) || parser.isSet(dpi) || parser.isSet(force)))
         return QStringLiteral("--output, --dpi and --force belong to the command print");
     if (prints && !printing::isKnownFormat(request->outputFile))
@@ -87,7 +90,7 @@ QString parse(const QStringList &arguments, Request *request)
 
 ExitCode fail(QTextStream &err, const QString &message)
 {
-    err << "tavro-desk: " << message << '\n';
+    err << "tavro-desk: " << messages::oneLine(message) << '\n';
     return BadInput;
 }
 
@@ -108,15 +111,16 @@ ExitCode runRequest(const Request &request, QTextStream &out, QTextStream &err)
         if (!filled.error.isEmpty())
             return fail(err, filled.error);
         for (const QString &id : filled.unknownIds)
-            problems.append(QStringLiteral("no object has the identifier \"%1\" of the record").arg(id));
+            problems.append(QStringLiteral("no object has the identifier %1 of the record").arg(messages::quoted(id)));
     }
     if (request.isVerbose) {
         for (const QString &line : fonts::facesUsedBy(*read.form))
-            out << line << '\n';
+            out << messages::oneLine(line) << '\n';
     }
     problems += checking::problems(*read.form);
     for (const QString &problem : qAsConst(problems))
-        (request.command == QLatin1String("check") ? out : err) << request.formFile << ": " << problem << '\n';
+        (request.command == QLatin1String("check") ? out : err)
+            << messages::oneLine(request.formFile + QStringLiteral(": ") + problem) << '\n';
     const ExitCode found = problems.isEmpty() ? Done : ProblemsFound;
     if (request.command == QLatin1String("check"))
         return found;
@@ -134,7 +138,7 @@ ExitCode run(const QStringList &arguments, QTextStream &out, QTextStream &err)
     Request request;
     const QString error = parse(arguments, &request);
     if (!error.isEmpty()) {
-        err << "tavro-desk: " << error << "\n\n" << Usage;
+        err << "tavro-desk: " << messages::oneLine(error) << "\n\n" << Usage;
         return BadInput;
     }
     if (request.wantsHelp) {
