@@ -38,6 +38,17 @@ qsizetype placesIn(QStringView pattern)
     return std::count_if(pattern.begin(), pattern.end(), isPlace);
 }
 
+// Where a part of the pattern says how many digits there are, separators count like places.
+bool isCounted(QChar character)
+{
+    return isPlace(character) || character == Comma || character == Point;
+}
+
+qsizetype countedIn(QStringView pattern)
+{
+    return std::count_if(pattern.begin(), pattern.end(), isCounted);
+}
+
 Pattern parsed(QStringView pattern)
 {
     Pattern result;
@@ -67,8 +78,7 @@ bool isZero(QStringView digits)
 qsizetype minimumDigits(QStringView integers)
 {
     const qsizetype first = integers.indexOf(Nought);
-    const QStringView required = first < 0 ? QStringView() : integers.mid(first);
-    return placesIn(required) + std::count(required.begin(), required.end(), Comma);
+    return first < 0 ? 0 : countedIn(integers.mid(first));
 }
 
 qsizetype groupSize(QStringView integers)
@@ -81,7 +91,7 @@ qsizetype groupSize(QStringView integers)
 // value is infinite or not a number.
 QString writtenDigits(double magnitude, const Pattern &pattern)
 {
-    const qsizetype decimals = std::clamp(placesIn(pattern.decimals), qsizetype(1), MaxDecimals);
+    const qsizetype decimals = std::clamp(countedIn(pattern.decimals), qsizetype(1), MaxDecimals);
     QString digits = QString::number(magnitude, 'f', int(decimals));
     const int integers = digits.indexOf(Point);
     const qsizetype missing = integers < 0 ? 0 : minimumDigits(pattern.integers) - integers;
@@ -125,7 +135,7 @@ void appendIntegers(QString &text, QStringView pattern, QStringView digits)
 void appendDecimals(QString &text, QStringView pattern, QStringView digits)
 {
     for (const QChar character : pattern) {
-        if (!isPlace(character)) {
+        if (!isCounted(character)) {
             text.append(character);
         } else if (digits.isEmpty()) {
             text.append(Nought);

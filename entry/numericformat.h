@@ -10,14 +10,14 @@ namespace numericformat {
 /// the characters 0-9, "#", "+" and "-" is kept as it is, and between them is the body:
 ///
 /// - "-" at its start shows the opposite of the value, "+" shows the sign of values above zero too.
-/// - The first "." parts integer from decimal places. There are as many decimals as decimal places, the last one
-///   rounded; without a point the first decimal is rounded to and cut off.
-/// - Counted from the first "0" to the end of the integer places, a "," included, is the least number of integer
-/// digits.
+/// - The first "." parts integer from decimal places. There are as many decimals as decimal places, every "," and
+///   further "." included, the last one rounded; without a point the first decimal is rounded to and cut off.
+/// - Counted from the first "0" to the end of the integer places, every "," included, is the least number of digits
+///   in front of the point.
 /// - The places behind the last "," before the point are the size of the groups that "," parts.
-/// - Everything else is a place for a digit (0-9, "#", and later signs) or literal text (any other character, and "."
-///   and "," behind the point). Literal text is always printed, where it stands among the places; digits that have no
-///   place of their own stand with the first one.
+/// - Everything else is a place for a digit (0-9, "#", and later signs) or literal text (any other character). Literal
+///   text is always printed, where it stands among the places; digits that have no place of their own stand with the
+///   first one.
 ///
 /// A pattern without a body is followed by the integer. A value whose printed digits are all 0 has no sign. Infinity
 /// and not-a-number are printed as "inf" and "nan" in place of the digits.

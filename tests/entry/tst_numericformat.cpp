@@ -73,6 +73,12 @@ void NumericFormatTest::addNumbers()
     add("one decimal", QStringLiteral("0.0"), 1.26, QStringLiteral("1.3"));
     add("hash as decimal is a decimal too", QStringLiteral("0.##"), 1, QStringLiteral("1.00"));
     add("four decimals", QStringLiteral("0.0000"), 3.14159, QStringLiteral("3.1416"));
+    add("half rounds as the number is written", usual, 0.125, QString::number(0.125, 'f', 2));
+    add("half below its decimal text", usual, 1.005, QStringLiteral("1.00"));
+    add("comma behind the point counts as a decimal", QStringLiteral("0.0,0"), 1.234, QStringLiteral("1.234"));
+    add("second point counts as a decimal", QStringLiteral("0.0.0"), 1.234, QStringLiteral("1.234"));
+    add("comma right behind the point", QStringLiteral("0.,0"), 1.25, QStringLiteral("1.25"));
+    add("comma behind the point groups nothing", QStringLiteral("0.,000"), 1234, QStringLiteral("1234.0000"));
 
     add("no group separator", QStringLiteral("#0.00"), 1234567, QStringLiteral("1234567.00"));
     add("groups of four", QStringLiteral("#,###0"), 123456789, QStringLiteral("1,2345,6789"));
@@ -91,6 +97,9 @@ void NumericFormatTest::addSigns()
     add("opposite of a negative value", opposite, -5, QStringLiteral("5.00"));
     add("opposite of zero", opposite, 0, QStringLiteral("0.00"));
     add("opposite of a value that comes out as 0", opposite, 0.004, QStringLiteral("0.00"));
+    add("opposite without integer places", QStringLiteral("-.00"), 5, QStringLiteral("-5.00"));
+    add("opposite with a leading group separator", QStringLiteral("-,##0.00"), 1234567,
+        QStringLiteral("-1,234,567.00"));
     add("opposite behind a prefix", QStringLiteral("¥-0.0"), 5, QStringLiteral("¥-5.0"));
     add("minus alone", QStringLiteral("-"), 5, QStringLiteral("-5"));
     add("minus at the end is a place", QStringLiteral("0.0-"), -1.25, QStringLiteral("-1.25"));
@@ -107,6 +116,7 @@ void NumericFormatTest::addSigns()
 
     add("both signs, positive", both, 5, QStringLiteral("+5.00"));
     add("both signs, negative", both, -5, QStringLiteral("-5.00"));
+    add("both signs, below 1", both, 0.5, QStringLiteral("+0.50"));
     add("both signs, zero", both, 0, QStringLiteral("0.00"));
     add("both signs, comes out as 0", both, 0.004, QStringLiteral("0.00"));
     add("plus inside is a place", QStringLiteral("0+0"), 5, QStringLiteral("005"));
@@ -135,8 +145,6 @@ void NumericFormatTest::addLiterals()
     add("text among the decimals", QStringLiteral("0.0角0"), 1.25, QStringLiteral("1.2角5"));
     add("currency behind a leading minus", QStringLiteral("-¥#,##0.00"), 1234, QStringLiteral("-¥1,234.00"));
     add("text inside a group is not counted", QStringLiteral("#,0'00"), 1234567, QStringLiteral("1,234,5'67"));
-    add("second point is text", QStringLiteral("0.0.0"), 1.25, QStringLiteral("1.2.5"));
-    add("comma behind the point is text", QStringLiteral("0.0,0"), 1.25, QStringLiteral("1.2,5"));
     add("Arabic digit inside is text", QStringLiteral("0٣0"), 12, QStringLiteral("1٣2"));
     add("beyond the basic plane", QStringLiteral("𝟙0𝟚0𝟛"), 12, QStringLiteral("𝟙1𝟚2𝟛"));
 }
