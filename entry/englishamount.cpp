@@ -78,24 +78,6 @@ void appendLastGroup(Buffer &text, const QChar *places)
     appendPair(text, readInteger(places + 1, 2));
 }
 
-// Makes one blank of two, in a single walk, and none at the ends.
-QString tidied(Buffer &text)
-{
-    constexpr QLatin1Char blank(' ');
-    QChar *out = text.begin();
-    for (const QChar *it = text.cbegin(); it != text.cend(); ++it) {
-        *out++ = *it;
-        if (*it == blank && it + 1 != text.cend() && it[1] == blank)
-            ++it;
-    }
-    const QChar *begin = text.cbegin();
-    while (begin != out && *begin == blank)
-        ++begin;
-    while (out != begin && out[-1] == blank)
-        --out;
-    return QString(begin, int(out - begin));
-}
-
 } // namespace
 
 QString amountText(QStringView content)
@@ -117,7 +99,25 @@ QString amountText(QStringView content)
         appendPair(text, cents);
     }
     append(text, numberwords::EnglishOnly);
-    return tidied(text);
+    return tidied(QStringView(text.constData(), text.size()));
+}
+
+QString tidied(QStringView words)
+{
+    constexpr QLatin1Char blank(' ');
+    Buffer text(int(words.size()));
+    QChar *out = text.data();
+    for (const QChar *it = words.cbegin(); it != words.cend(); ++it) {
+        *out++ = *it;
+        if (*it == blank && it + 1 != words.cend() && it[1] == blank)
+            ++it;
+    }
+    const QChar *begin = text.constData();
+    while (begin != out && *begin == blank)
+        ++begin;
+    while (out != begin && out[-1] == blank)
+        --out;
+    return QString(begin, int(out - begin));
 }
 
 } // namespace englishamount

@@ -12,4 +12,7 @@ namespace englishamount {
 /// group; so does every other character that is no digit.
 QString amountText(QStringView content);
 
+/// Makes one blank of every two in a single walk, so that three in a row leave two, and none at the ends.
+QString tidied(QStringView words);
+
 } // namespace englishamount

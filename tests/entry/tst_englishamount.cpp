@@ -108,6 +108,8 @@ private Q_SLOTS:
     void everyPairInEveryGroup();
     void everyPatternOfZerosAndOnes();
     void randomContents();
+    void gapsBetweenWords_data();
+    void gapsBetweenWords();
 };
 
 void EnglishAmountTest::amountText_data()
@@ -226,6 +228,32 @@ void EnglishAmountTest::randomContents()
                 return;
         }
     }
+}
+
+void EnglishAmountTest::gapsBetweenWords_data()
+{
+    QTest::addColumn<QString>("words");
+    QTest::addColumn<QString>("text");
+
+    const auto add = [](const char *name, const char *words, const char *text) {
+        QTest::newRow(name) << QString::fromUtf8(words) << QString::fromUtf8(text);
+    };
+    add("one blank stays", "ONE ONLY", "ONE ONLY");
+    add("two blanks are one", " ONE  ONLY ", "ONE ONLY");
+    add("three blanks are two", "ONE   ONLY", "ONE  ONLY");
+    add("four blanks are two", "ONE    ONLY", "ONE  ONLY");
+    add("every gap", "ONE  HUNDRED  AND  ONLY", "ONE HUNDRED AND ONLY");
+    add("none at the ends", "     ONE ONLY     ", "ONE ONLY");
+    add("other white space stays", "\tONE\u00a0 \u00a0ONLY\n", "\tONE\u00a0 \u00a0ONLY\n");
+    add("only blanks", "     ", "");
+    add("nothing", "", "");
+}
+
+void EnglishAmountTest::gapsBetweenWords()
+{
+    QFETCH(const QString, words);
+    QFETCH(const QString, text);
+    QCOMPARE(englishamount::tidied(words), text);
 }
 
 QTEST_APPLESS_MAIN(EnglishAmountTest)
