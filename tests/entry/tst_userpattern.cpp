@@ -54,6 +54,7 @@ void UserPatternTest::matches_data()
     add("invalid pattern", QStringLiteral("[0-9"), QStringLiteral("1"), false);
     add("invalid pattern, empty text", QStringLiteral("("), QString(), false);
     add("invalid pattern that anchors would close", QStringLiteral("a)(?:b"), QStringLiteral("ab"), false);
+    add("option that only a pattern's start may hold", QStringLiteral("(*UTF)1"), QStringLiteral("1"), false);
     add("quotation to the end", QStringLiteral("\\Qa.b"), QStringLiteral("a.b"), true);
     add("quotation to the end, other text", QStringLiteral("\\Qa.b"), QStringLiteral("axb"), false);
     add("comment to the end", QStringLiteral("(?x) [0-9]{3} # three digits"), QStringLiteral("123"), true);
@@ -88,7 +89,7 @@ void UserPatternTest::invalidPatternsPrintNothing()
 {
     printedMessages = 0;
     const QtMessageHandler previous = qInstallMessageHandler(countMessage);
-    for (const char *pattern : {"[0-9", "(", "*", "a)(?:b", "\\"})
+    for (const char *pattern : {"[0-9", "(", "*", "a)(?:b", "\\", "(*UTF)1"})
         UserPattern(QString::fromLatin1(pattern)).matches(QStringLiteral("1"));
     qInstallMessageHandler(previous);
     QCOMPARE(printedMessages, 0);
