@@ -20,22 +20,11 @@ QImage lockSign()
     return image;
 }
 
-// Hosts keep the enumerations as integers, so their meta-properties take integers too.
-template <typename Enumeration>
-void registerIntegerConversion()
-{
-    if (!QMetaType::hasRegisteredConverterFunction<int, Enumeration>())
-        QMetaType::registerConverter<int, Enumeration>([](int value) { return static_cast<Enumeration>(value); });
-}
-
 void registerMetaTypes()
 {
     qRegisterMetaType<ObjType>("ObjType");
     qRegisterMetaType<Paint_Mode>("Paint_Mode");
     qRegisterMetaType<Text_Filling_Rule>("Text_Filling_Rule");
-    registerIntegerConversion<ObjType>();
-    registerIntegerConversion<Paint_Mode>();
-    registerIntegerConversion<Text_Filling_Rule>();
 }
 
 } // namespace
