@@ -117,30 +117,39 @@ QString described(const QJsonValue &value)
     return QStringLiteral("nothing");
 }
 
+Content failure(const QString &fileName, const QString &what)
+{
+    return {{}, messages::oneLine(QStringLiteral("%1: %2").arg(fileName, what))};
+}
+
 } // namespace
 
-Content read(const QString &fileName)
+Content parse(const QByteArray &bytes, const QString &fileName)
 {
-    const auto fail = [&fileName](const QString &what) {
-        return Content{{}, messages::oneLine(QStringLiteral("%1: %2").arg(fileName, what))};
-    };
-    QFile file(fileName);
-    if (!file.open(QIODevice::ReadOnly))
-        return fail(QStringLiteral("cannot be read: %1").arg(file.errorString()));
-    const QByteArray bytes = file.read(MostBytes + 1);
-    if (bytes.size() > MostBytes)
-        return fail(QStringLiteral("expected a JSON file of at most %1 bytes").arg(MostBytes));
     QJsonParseError problem;
     const QJsonDocument document = QJsonDocument::fromJson(bytes, &problem);
     if (problem.error != QJsonParseError::NoError)
-        return fail(
+        return failure(
+            fileName,
             QStringLiteral("%1: expected JSON: %2").arg(lineAndColumn(bytes, problem.offset), problem.errorString()));
     if (!document.isObject())
-        return fail(QStringLiteral("expected a JSON object, found an array"));
+        return failure(fileName, QStringLiteral("expected a JSON object, found an array"));
     const Flaw flaw = firstFlaw(bytes);
     if (flaw.offset >= 0)
-        return fail(QStringLiteral("%1: expected %2").arg(lineAndColumn(bytes, flaw.offset), flaw.expected));
+        return failure(fileName,
+                       QStringLiteral("%1: expected %2").arg(lineAndColumn(bytes, flaw.offset), flaw.expected));
     return {document.object(), QString()};
+}
+
+Content read(const QString &fileName)
+{
+    QFile file(fileName);
+    if (!file.open(QIODevice::ReadOnly))
+        return failure(fileName, QStringLiteral("cannot be read: %1").arg(file.errorString()));
+    const QByteArray bytes = file.read(MostBytes + 1);
+    if (bytes.size() > MostBytes)
+        return failure(fileName, QStringLiteral("expected a JSON file of at most %1 bytes").arg(MostBytes));
+    return parse(bytes, fileName);
 }
 
 QString mismatch(const QString &fileName, const QString &path, const QString &expected, const QJsonValue &found)

@@ -17,6 +17,8 @@ struct Content
 /// The object that the whole file is. A name that stands twice in one object is an error: one of the two values would
 /// be lost without a word. So is half of a surrogate pair.
 Content read(const QString &fileName);
+/// The same from the bytes of a file; `fileName` is for the messages.
+Content parse(const QByteArray &bytes, const QString &fileName);
 
 /// "file: path: expected what, found what"
 QString mismatch(const QString &fileName, const QString &path, const QString &expected, const QJsonValue &found);
