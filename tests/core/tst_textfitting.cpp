@@ -176,7 +176,7 @@ void TestTextFitting::sameAsStepByStep()
 {
     QFETCH(QString, text);
     QFETCH(QSizeF, box);
-    QVector<int> starts{60, 300};
+    QVector<int> starts{30, 60, 120};
     for (int start = 1; start <= 20; ++start)
         starts.append(start);
     compareWithStepByStep(text, box, starts);
@@ -231,7 +231,10 @@ void TestTextFitting::hugeSizesAreTheSame()
 {
     QFETCH(QString, text);
     QFETCH(QSizeF, box);
-    compareWithStepByStep(text, box, {300, 700, 1500});
+    QVector<int> starts{300, 700};
+    if (text.size() < 20) // every size of every glyph above that is a large outline to load
+        starts.append(1500);
+    compareWithStepByStep(text, box, starts);
 }
 
 void TestTextFitting::exactWidthFits()
