@@ -3,7 +3,7 @@
 #include "entry/textedit.h"
 #include "tests/entry/amountcases.h"
 #include "tests/entry/formview.h"
-#include "tests/entry/screendevice.h"
+#include "tests/support/recordingpaintengine.h"
 #include "tests/support/stricttest.h"
 
 #include <QSignalSpy>
@@ -16,7 +16,7 @@ const QRectF Field(20, 20, 200, 30);
 
 QVector<PaintCommand> painted(TavroEdit &edit)
 {
-    ScreenDevice device;
+    RecordingDevice device;
     QPainter painter(&device);
     const QStyleOptionGraphicsItem option;
     edit.paint(&painter, &option, nullptr);
