@@ -35,6 +35,35 @@ public:
     int fonts = 0;
 };
 
+// Everything that the signals of the text settings tell about.
+QVariantList stateOf(const TavroText &text)
+{
+    return {text.font(),   text.fontFamily(),    text.fontPtSz(),      text.fontPixSz(),
+            text.prefix(), int(text.horAlign()), int(text.verAlign()), text.textFillingRule()};
+}
+
+using Signal = void (T::*)();
+
+// The object as a listener finds it when it is told of a change.
+struct Heard
+{
+    Heard(const TavroText &text, Signal signal)
+    {
+        QObject::connect(&text, signal, [this, &text] {
+            ++times;
+            marked = text.isModified();
+            state = stateOf(text);
+            font = text.font();
+        });
+    }
+    Q_DISABLE_COPY_MOVE(Heard)
+
+    int times = 0;
+    bool marked = false;
+    QVariantList state;
+    QFont font;
+};
+
 // A text object whose field is 200 by 20 px, in a font that is installed.
 void prepare(TavroText &text, Text_Filling_Rule rule)
 {
@@ -82,6 +111,7 @@ QVector<Setting<T>> settings()
 } // namespace
 
 Q_DECLARE_METATYPE(std::function<void(TavroText &)>)
+Q_DECLARE_METATYPE(Signal)
 
 /// Text settings, the filling rules and the drawing font.
 class TestTavroText : public StrictTest
@@ -114,8 +144,13 @@ private Q_SLOTS:
     void signalsAreBlockedDuringRefit();
     void hostsBlockStays();
     void pointSizeDoesNotRefit();
+    void pixelSizeKeepsTheRestOfTheFont();
+    void fitsStartAtThePixelSize_data();
+    void fitsStartAtThePixelSize();
     void conversionsAreAsymmetric();
+    void signalsBeforeTheMark_data();
     void signalsBeforeTheMark();
+    void baseSignalsBeforeTheRefit();
     void paintsTheBase();
     void refitRepaints();
 };
@@ -310,6 +345,9 @@ void TestTavroText::shrinksPrefixAndValue_data()
     QTest::newRow("both") << QStringLiteral("No. ") << QVariant(Sentence) << QStringLiteral("No. ") + Sentence;
     QTest::newRow("number") << Sentence << QVariant(1234567) << Sentence + QStringLiteral("1234567");
     QTest::newRow("neither") << QString() << QVariant() << QString();
+    // Spaces between the two break the line, spaces behind both would hang over its end.
+    const QString spaced = QStringLiteral("No.") + QString(80, QLatin1Char(' '));
+    QTest::newRow("prefix comes first") << spaced << QVariant(7) << spaced + QStringLiteral("7");
 }
 
 void TestTavroText::shrinksPrefixAndValue()
@@ -466,6 +504,40 @@ void TestTavroText::pointSizeDoesNotRefit()
     QCOMPARE(bare.font().pixelSize(), 1);
 }
 
+// A font from outside keeps what the settings do not hold.
+void TestTavroText::pixelSizeKeepsTheRestOfTheFont()
+{
+    TavroText text;
+    prepare(text, Fill_Wrap);
+    text.setPhyBoundingRectWidth(50);
+    QFont outside(QStringLiteral("DejaVu Serif"), 33);
+    outside.setUnderline(true);
+    text.setFont(outside);
+    text.setFontPtSz(10.5);
+    outside.setPixelSize(14);
+    QCOMPARE(text.font(), outside);
+}
+
+void TestTavroText::fitsStartAtThePixelSize_data()
+{
+    QTest::addColumn<int>("rule");
+
+    for (const int rule : {0, 1, 2, 3})
+        QTest::addRow("rule %d", rule) << rule;
+}
+
+void TestTavroText::fitsStartAtThePixelSize()
+{
+    QFETCH(int, rule);
+    TavroText text;
+    prepare(text, static_cast<Text_Filling_Rule>(rule));
+    text.setPhyBoundingRectWidth(50);
+    text.setFontPtSz(18);
+    text.setContentData(QStringLiteral("Pay"));
+    QCOMPARE(text.fontPixSz(), 25);
+    QCOMPARE(text.font(), propertyFont(DejaVu, 25));
+}
+
 void TestTavroText::conversionsAreAsymmetric()
 {
     TavroText text;
@@ -477,22 +549,56 @@ void TestTavroText::conversionsAreAsymmetric()
     QCOMPARE(text.pixSzToPointSz(-14), -4.960629921259842);
 }
 
-// Listeners that read the object see the new font, on an object whose mark is not yet set.
+void TestTavroText::signalsBeforeTheMark_data()
+{
+    QTest::addColumn<Signal>("signal");
+    QTest::addColumn<Operation>("operation");
+
+    const auto row = [](const char *name, Signal signal, const Operation &operation) {
+        QTest::newRow(name) << signal << operation;
+    };
+    row("prefix", &T::prefixChanged, [](T &t) { t.setPrefix(Sentence); });
+    row("family", &T::fontFamilyChanged, [](T &t) { t.setFontFamily(Song); });
+    row("filling rule", &T::textFillingRuleChanged, [](T &t) { t.setTextFillingRule(Fill_NoWrap); });
+    row("horizontal", &T::horAlignChanged, [](T &t) { t.setHorAlign(Qt::AlignRight); });
+    row("vertical", &T::verAlignChanged, [](T &t) { t.setVerAlign(Qt::AlignTop); });
+    row("point size", &T::fontPtSzChanged, [](T &t) { t.setFontPtSz(10.5); });
+}
+
+// Listeners that read the object see the new setting and font, on an object whose mark is not yet set.
 void TestTavroText::signalsBeforeTheMark()
+{
+    QFETCH(Signal, signal);
+    QFETCH(Operation, operation);
+    TavroText text;
+    prepare(text, Fill_Shrink);
+    text.setPhyBoundingRectWidth(50);
+    text.setContentData(Sentence);
+    text.setIsModified(false);
+    const QVariantList before = stateOf(text);
+    const Heard heard(text, signal);
+    operation(text);
+    QCOMPARE(heard.times, 1);
+    QVERIFY(!heard.marked);
+    QVERIFY(heard.state != before);
+    QCOMPARE(heard.state, stateOf(text));
+    QVERIFY(text.isModified());
+}
+
+// The value and the rectangle are told as the base tells them, on an object that still has its old font.
+void TestTavroText::baseSignalsBeforeTheRefit()
 {
     TavroText text;
     prepare(text, Fill_Shrink);
-    text.setIsModified(false);
-    QFont seen;
-    bool marked = true;
-    connect(&text, &T::prefixChanged, [&] {
-        seen = text.font();
-        marked = text.isModified();
-    });
-    text.setPrefix(Sentence);
-    QVERIFY(seen.pixelSize() < 15);
-    QVERIFY(!marked);
-    QVERIFY(text.isModified());
+    const Heard value(text, &T::contentDataChanged);
+    text.setContentData(Sentence);
+    QCOMPARE(value.font.pixelSize(), 15);
+    const QFont narrow = text.font();
+    QVERIFY(narrow.pixelSize() < 15);
+    const Heard rectangle(text, &T::boundingRectChanged);
+    text.setBoundingRect(QRectF(0, 0, 800, 20));
+    QCOMPARE(rectangle.font, narrow);
+    QCOMPARE(text.font().pixelSize(), 15);
 }
 
 void TestTavroText::paintsTheBase()

@@ -63,6 +63,8 @@ private Q_SLOTS:
     void pickedOnTheScene();
     void resize_data();
     void resize();
+    void draggedPastItsStart();
+    void rectangleIsToldWhenHandlesStand();
     void rectangleRepaints();
     void settersDoNotRepaint();
 };
@@ -215,6 +217,10 @@ void TestTavroLine::lockedSign()
     line.setFlag(QGraphicsItem::ItemIsSelectable, true);
     line.setSelected(true);
     QCOMPARE(probes::paintedBy(line).size(), 1);
+    line.setPaintMode(Paint_Print);
+    line.setFlag(QGraphicsItem::ItemIsSelectable, true);
+    line.setSelected(true);
+    QCOMPARE(probes::paintedBy(line).size(), 1);
 }
 
 void TestTavroLine::pickArea()
@@ -251,6 +257,12 @@ void TestTavroLine::pickAreaFollowsTheWidth()
     line.setLineWidthPhy(50);
     QVERIFY(line.shape().contains(QPointF(50, 7.9)));
     QVERIFY(!line.shape().contains(QPointF(50, 8.1)));
+    // Gaps of the stroke are picked like the rest.
+    const QPainterPath solid = line.shape();
+    for (const Qt::PenStyle style : {Qt::DashLine, Qt::NoPen}) {
+        line.setLineStyle(style);
+        QCOMPARE(line.shape(), solid);
+    }
 }
 
 void TestTavroLine::pickedOnTheScene()
@@ -301,6 +313,37 @@ void TestTavroLine::resize()
     line.setBoundingRect(QRectF(10, 20, 30, 50));
     line.resize(Handle_BottomRight, QPointF(1010, 20));
     QCOMPARE(line.boundingRect(), QRectF(10, 20, 0, 0));
+}
+
+// The end dragged to the left of the start and above it.
+void TestTavroLine::draggedPastItsStart()
+{
+    TavroLine line;
+    line.setBoundingRect(QRectF(100, 100, 60, 40));
+    line.resize(Handle_BottomRight, QPointF(20, 40));
+    QCOMPARE(line.boundingRect(), QRectF(100, 100, -80, -60));
+    const QVector<PaintCommand> painted = probes::paintedBy(line);
+    QCOMPARE(painted.size(), 1);
+    QCOMPARE(painted.first().rect, QRectF(100, 100, -80, -60));
+    QVERIFY(line.shape().contains(QPointF(60, 70)));
+    QVERIFY(!line.shape().contains(QPointF(130, 120)));
+    line.setSelected(true);
+    QCOMPARE(line.hitTest(QPointF(20, 40)), Handle_BottomRight);
+    QCOMPARE(line.hitTest(QPointF(100, 100)), Handle_TopLeft);
+}
+
+void TestTavroLine::rectangleIsToldWhenHandlesStand()
+{
+    TavroLine line;
+    QRectF rect;
+    QPointF end;
+    connect(&line, &TavroPrototype::boundingRectChanged, [&] {
+        rect = line.boundingRect();
+        end = probes::handlesOf(line).at(1)->pos();
+    });
+    line.setBoundingRect(QRectF(100, 100, -60, 40));
+    QCOMPARE(rect, QRectF(100, 100, -60, 40));
+    QCOMPARE(end, QPointF(36, 136));
 }
 
 void TestTavroLine::rectangleRepaints()

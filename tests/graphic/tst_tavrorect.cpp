@@ -20,6 +20,7 @@ private Q_SLOTS:
     void modes_data();
     void modes();
     void lockedSign();
+    void pickArea_data();
     void pickArea();
     void pickAreaFollowsTheWidth();
     void pickedOnTheScene();
@@ -151,12 +152,28 @@ void TestTavroRect::lockedSign()
     rect.setFlag(QGraphicsItem::ItemIsSelectable, true);
     rect.setSelected(true);
     QCOMPARE(probes::paintedBy(rect).size(), 1);
+    rect.setPaintMode(Paint_Print);
+    rect.setFlag(QGraphicsItem::ItemIsSelectable, true);
+    rect.setSelected(true);
+    QCOMPARE(probes::paintedBy(rect).size(), 1);
+}
+
+void TestTavroRect::pickArea_data()
+{
+    QTest::addColumn<QRectF>("frame");
+
+    // One frame on the form, dragged from each of its corners.
+    QTest::newRow("to the right and down") << QRectF(100, 100, 200, 80);
+    QTest::newRow("to the left and down") << QRectF(300, 100, -200, 80);
+    QTest::newRow("to the left and up") << QRectF(300, 180, -200, -80);
+    QTest::newRow("to the right and up") << QRectF(100, 180, 200, -80);
 }
 
 void TestTavroRect::pickArea()
 {
+    QFETCH(QRectF, frame);
     TavroRect rect;
-    rect.setBoundingRect(QRectF(100, 100, 200, 80));
+    rect.setBoundingRect(frame);
     const QPainterPath area = rect.shape();
     QCOMPARE(area.fillRule(), Qt::WindingFill);
     const QVector<QPointF> sides{{200, 100}, {200, 180}, {100, 140}, {300, 140}};
@@ -179,6 +196,12 @@ void TestTavroRect::pickAreaFollowsTheWidth()
     rect.setLineWidthPhy(50);
     QVERIFY(rect.shape().contains(QPointF(200, 107.9)));
     QVERIFY(!rect.shape().contains(QPointF(200, 108.1)));
+    // Gaps of the stroke are picked like the rest.
+    const QPainterPath solid = rect.shape();
+    for (const Qt::PenStyle style : {Qt::DashLine, Qt::NoPen}) {
+        rect.setLineStyle(style);
+        QCOMPARE(rect.shape(), solid);
+    }
 }
 
 void TestTavroRect::pickedOnTheScene()
