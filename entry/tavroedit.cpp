@@ -407,10 +407,10 @@ void TavroEdit::syncContentData()
 {
     if (!m_editor)
         return;
-    const QString text = m_editor->toPlainText();
-    storeContent(text);
+    storeContent(m_editor->toPlainText());
     Q_EMIT contentDataChanged();
-    convertIfValid(text);
+    // A slot may have corrected the text while the signal was out: what the editor holds by now is validated.
+    convertIfValid(contentText());
     adjustTextStyle();
 }
 

@@ -81,6 +81,8 @@ private Q_SLOTS:
     void stagesOfAnAmount();
     void contentIsAnnouncedBeforeTheConversion();
     void contentOfASlotStays();
+    void contentPassedInIsValidated();
+    void textCorrectedWhileTypingIsShown();
 };
 
 void TestTavroEdit::contentIsConverted_data()
@@ -396,6 +398,36 @@ void TestTavroEdit::contentOfASlotStays()
     QCOMPARE(edit.contentData(), QVariant(QStringLiteral("good")));
     QCOMPARE(edit.displayText(), QStringLiteral("good"));
     QCOMPARE(editorOf(edit)->toPlainText(), QStringLiteral("good"));
+}
+
+void TestTavroEdit::contentPassedInIsValidated()
+{
+    TavroEdit edit;
+    edit.setFormatType(Format_Number);
+    connect(&edit, &TavroEdit::contentDataChanged, &edit, [&edit] {
+        if (edit.contentData().toString() == QStringLiteral("bad"))
+            edit.setContentData(QStringLiteral("15"));
+    });
+    const QSignalSpy invalid(&edit, &TavroEdit::invalidDataOccured);
+    edit.setContentData(QStringLiteral("bad"));
+    QCOMPARE(edit.contentData(), QVariant(QStringLiteral("15")));
+    QCOMPARE(invalid.count(), 1);
+}
+
+void TestTavroEdit::textCorrectedWhileTypingIsShown()
+{
+    TavroEdit edit;
+    edit.setFormatType(Format_RmbCapital);
+    connect(&edit, &TavroEdit::contentDataChanged, &edit, [&edit] {
+        if (edit.contentData().toString() == QStringLiteral("15 000"))
+            edit.setContentData(QStringLiteral("15000"));
+    });
+    const QSignalSpy invalid(&edit, &TavroEdit::invalidDataOccured);
+    editorOf(edit)->setPlainText(QStringLiteral("15 000"));
+    QCOMPARE(editorOf(edit)->toPlainText(), QStringLiteral("15000"));
+    QCOMPARE(edit.contentData(), QVariant(QStringLiteral("15000")));
+    QCOMPARE(edit.displayText(), QStringLiteral("壹万伍仟元整"));
+    QCOMPARE(invalid.count(), 0);
 }
 
 QTEST_MAIN(TestTavroEdit)
