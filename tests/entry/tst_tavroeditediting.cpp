@@ -20,6 +20,22 @@ namespace {
 
 const QRectF Field(20, 20, 200, 30);
 
+// Why a widget was given the keyboard.
+class FocusReasons : public QObject
+{
+public:
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() == QEvent::FocusIn)
+            m_heard.append(static_cast<QFocusEvent *>(event)->reason());
+        return false;
+    }
+    QVector<Qt::FocusReason> heard() const { return m_heard; }
+
+private:
+    QVector<Qt::FocusReason> m_heard;
+};
+
 } // namespace
 
 class TestTavroEditEditing : public StrictTest
@@ -35,9 +51,12 @@ private Q_SLOTS:
     void openedEditorCoversTheFieldWithinItsBorder();
     void clickOpensTheUppermostField();
     void clickSelectsInDesignMode();
+    void clickSelectsInInputModeWhereTheHostLetsIt();
     void focusOpensTheEditor_data();
     void focusOpensTheEditor();
     void readOnlyFieldsStayClosed();
+    void openingSelectsAllBeforeTheCursorMoves();
+    void openingGivesTheFocusForNoParticularReason();
     void openingSelectsNothing();
     void openingChangesNothing();
     void keysPerFormat_data() { keytable::addRows(); }
@@ -151,6 +170,20 @@ void TestTavroEditEditing::clickSelectsInDesignMode()
     QVERIFY(edit->isSelected());
 }
 
+void TestTavroEditEditing::clickSelectsInInputModeWhereTheHostLetsIt()
+{
+    FormView form;
+    QVERIFY(form.isActive());
+    auto *edit = form.add<TavroEdit>(Field, Paint_Input);
+    form.click(edit);
+    QVERIFY(!edit->isSelected());
+    edit->widgetPrxy()->hide();
+    edit->setFlag(QGraphicsItem::ItemIsSelectable);
+    form.click(edit);
+    QVERIFY(edit->isSelected());
+    QVERIFY(FormView::isEdited(edit));
+}
+
 void TestTavroEditEditing::focusOpensTheEditor_data()
 {
     QTest::addColumn<int>("mode");
@@ -183,6 +216,31 @@ void TestTavroEditEditing::readOnlyFieldsStayClosed()
     edit->setIsReadOnly(false);
     edit->readyForEdit();
     QVERIFY(FormView::isEdited(edit));
+}
+
+void TestTavroEditEditing::openingSelectsAllBeforeTheCursorMoves()
+{
+    FormView form;
+    QVERIFY(form.isActive());
+    auto *edit = form.add<TavroEdit>(Field, Paint_Input);
+    edit->setContentData(QStringLiteral("123"));
+    QStringList selections;
+    const TextEdit *editor = FormView::editorOf(edit);
+    connect(editor, &TextEdit::selectionChanged, edit,
+            [&selections, editor] { selections << editor->textCursor().selectedText(); });
+    edit->readyForEdit();
+    QCOMPARE(selections, QStringList({QStringLiteral("123"), QString()}));
+}
+
+void TestTavroEditEditing::openingGivesTheFocusForNoParticularReason()
+{
+    FormView form;
+    QVERIFY(form.isActive());
+    auto *edit = form.add<TavroEdit>(Field, Paint_Input);
+    FocusReasons reasons;
+    FormView::editorOf(edit)->installEventFilter(&reasons);
+    edit->readyForEdit();
+    QCOMPARE(reasons.heard(), QVector<Qt::FocusReason>({Qt::OtherFocusReason}));
 }
 
 void TestTavroEditEditing::openingSelectsNothing()
