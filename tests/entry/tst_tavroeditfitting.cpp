@@ -29,6 +29,7 @@ private Q_SLOTS:
     void fittingIsSilent();
     void fittingRepaints();
     void contentIsFittedWhenTheLoopTurns();
+    void everyContentIsFitted();
     void typedTextIsFittedAtOnce();
     void deletedBeforeTheLoopTurns();
 };
@@ -129,6 +130,19 @@ void TestTavroEditFitting::contentIsFittedWhenTheLoopTurns()
     QCOMPARE(edit.font().pixelSize(), 15);
     QTRY_VERIFY(edit.font().pixelSize() < 15);
     QCOMPARE(edit.font(), edit.font_Shrink(QStringLiteral("much longer than the field")));
+}
+
+void TestTavroEditFitting::everyContentIsFitted()
+{
+    TavroEdit edit;
+    edit.setFontFamily(QStringLiteral("DejaVu Sans"));
+    edit.setTextFillingRule(Fill_Shrink);
+    edit.setBoundingRect({0, 0, 50, 20});
+    edit.setContentData(QStringLiteral("a"));
+    edit.setContentData(QStringLiteral("much longer than the field"));
+    QTRY_VERIFY(edit.font().pixelSize() < 15);
+    edit.setContentData(QStringLiteral("a"));
+    QTRY_COMPARE(edit.font().pixelSize(), 15);
 }
 
 void TestTavroEditFitting::typedTextIsFittedAtOnce()
