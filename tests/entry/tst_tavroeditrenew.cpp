@@ -36,6 +36,7 @@ private Q_SLOTS:
     void renewTakesThePreset();
     void renewCountsSerialNumbers_data();
     void renewCountsSerialNumbers();
+    void numbersAreCountedInAnyFormat();
     void renewLogsTheSerialNumber();
     void renewLeavesOthersAlone_data();
     void renewLeavesOthersAlone();
@@ -113,6 +114,19 @@ void TestTavroEditRenew::renewCountsSerialNumbers()
     QCOMPARE(editorOf(edit)->toPlainText(), after);
     QCOMPARE(changed.count(), 1);
     QCOMPARE(invalid.count(), 0);
+}
+
+// Counting is the host's to ask for: neither the format nor the wish to stay as it is holds it back.
+void TestTavroEditRenew::numbersAreCountedInAnyFormat()
+{
+    TavroEdit edit;
+    edit.setIsResetAtRenew(false);
+    for (const Input_Format format : {Format_Text, Format_RmbCapital, Format_SerialNumber}) {
+        edit.setFormatType(format);
+        edit.setContentData(QStringLiteral("0099"));
+        edit.increaseSerialNum();
+        QCOMPARE(edit.contentData(), QVariant(QStringLiteral("0100")));
+    }
 }
 
 void TestTavroEditRenew::renewLogsTheSerialNumber()
