@@ -33,6 +33,8 @@ private Q_SLOTS:
     void pasteIsNotFiltered_data();
     void pasteIsNotFiltered();
     void refusedKeyTellsNobody();
+    void swallowedKeysStopAtTheEditor_data();
+    void swallowedKeysStopAtTheEditor();
     void acceptedKeyTellsOnce();
     void focusOutHidesTheCursor();
     void contextMenuOpens();
@@ -237,6 +239,39 @@ void TestTextEdit::refusedKeyTellsNobody()
     QTest::keyClick(&editor, Qt::Key_A);
     QCOMPARE(changed.count(), 0);
     QVERIFY(!editor.signalsBlocked());
+}
+
+void TestTextEdit::swallowedKeysStopAtTheEditor_data()
+{
+    QTest::addColumn<int>("format");
+    QTest::addColumn<int>("key");
+    QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
+    const Qt::KeyboardModifiers none = Qt::NoModifier;
+    const Qt::KeyboardModifiers control = Qt::ControlModifier;
+    QTest::newRow("select all") << 0 << int(Qt::Key_A) << control;
+    QTest::newRow("undo") << 0 << int(Qt::Key_Z) << control;
+    QTest::newRow("Delete in a number") << 1 << int(Qt::Key_Delete) << none;
+    QTest::newRow("minus in an amount") << 2 << int(Qt::Key_Minus) << none;
+    QTest::newRow("third decimal") << 2 << int(Qt::Key_4) << none;
+    QTest::newRow("point in a serial number") << 8 << int(Qt::Key_Period) << none;
+    QTest::newRow("digit beyond the formats") << 11 << int(Qt::Key_1) << none;
+}
+
+// A key that the view got instead would act on the form: Delete and Ctrl+Z are a host's usual shortcuts.
+void TestTextEdit::swallowedKeysStopAtTheEditor()
+{
+    QFETCH(int, format);
+    QFETCH(int, key);
+    QFETCH(Qt::KeyboardModifiers, modifiers);
+    TextEdit editor;
+    editor.setFormatType(static_cast<Input_Format>(format));
+    editor.setPlainText(QStringLiteral("1.23"));
+    editor.moveCursor(QTextCursor::End);
+    QKeyEvent event(QEvent::KeyPress, key, modifiers, QString(QChar(key)));
+    QApplication::sendEvent(&editor, &event);
+    QVERIFY(event.isAccepted());
+    QCOMPARE(editor.toPlainText(), QStringLiteral("1.23"));
+    QVERIFY(!editor.textCursor().hasSelection());
 }
 
 void TestTextEdit::acceptedKeyTellsOnce()
