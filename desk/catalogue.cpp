@@ -64,7 +64,7 @@ Setting choosing(Setting setting, std::initializer_list<std::pair<const char *, 
 {
     for (const auto &[name, value] : choices)
         setting.choices.append({QString::fromLatin1(name), value});
-    return setting;
+    return ranged(setting, Setting::LeastInt, Setting::MostInt);
 }
 
 Setting rotation()
@@ -145,14 +145,16 @@ Settings strokeSettings()
     return commonSettings() + Settings{width,
                                        member("lineColor", "Line colour", "Line", Type::AlphaColor, &Stroked::lineColor,
                                               &Stroked::setLineColor),
-                                       choosing(member("lineStyle", "Line style", "Line", Type::Choice,
-                                                       &Stroked::lineStyle, &Stroked::setLineStyle),
-                                                {{"none", Qt::NoPen},
-                                                 {"solid", Qt::SolidLine},
-                                                 {"dash", Qt::DashLine},
-                                                 {"dot", Qt::DotLine},
-                                                 {"dashDot", Qt::DashDotLine},
-                                                 {"dashDotDot", Qt::DashDotDotLine}})};
+                                       // The type of pen styles holds no other numbers.
+                                       ranged(choosing(member("lineStyle", "Line style", "Line", Type::Choice,
+                                                              &Stroked::lineStyle, &Stroked::setLineStyle),
+                                                       {{"none", Qt::NoPen},
+                                                        {"solid", Qt::SolidLine},
+                                                        {"dash", Qt::DashLine},
+                                                        {"dot", Qt::DotLine},
+                                                        {"dashDot", Qt::DashDotLine},
+                                                        {"dashDotDot", Qt::DashDotDotLine}}),
+                                              Qt::NoPen, Qt::DashDotDotLine)};
 }
 
 const Settings &boxSettings()

@@ -4,13 +4,18 @@
 #include <QStringList>
 #include <algorithm>
 #include <cmath>
-#include <limits>
 
 namespace {
 
 bool isWhole(double number)
 {
-    return number == std::floor(number) && std::abs(number) <= std::numeric_limits<int>::max();
+    return number == std::floor(number) && number >= Setting::LeastInt && number <= Setting::MostInt;
+}
+
+QVariant wholeFrom(const QJsonValue &json, double minimum, double maximum)
+{
+    const double number = json.toDouble();
+    return json.isDouble() && isWhole(number) && number >= minimum && number <= maximum ? json.toInt() : QVariant();
 }
 
 bool isHexDigit(QChar character)
@@ -33,12 +38,10 @@ QString colorText(unsigned int color, int digits)
     return QStringLiteral("#%1").arg(color, digits, 16, QLatin1Char('0'));
 }
 
-QVariant choiceFrom(const QJsonValue &json, const QVector<Setting::Choice> &choices)
+QVariant choiceFrom(const QString &name, const QVector<Setting::Choice> &choices)
 {
-    if (json.isDouble() && isWhole(json.toDouble()))
-        return json.toInt();
     for (const Setting::Choice &choice : choices) {
-        if (json.isString() && choice.name == json.toString())
+        if (choice.name == name)
             return choice.value;
     }
     return {};
@@ -62,7 +65,7 @@ QVariant Setting::fromJson(const QJsonValue &json) const
     case Type::Flag:
         return json.isBool() ? json.toVariant() : QVariant();
     case Type::Integer:
-        return json.isDouble() && isWhole(number) && number >= minimum && number <= maximum ? json.toInt() : QVariant();
+        return wholeFrom(json, minimum, maximum);
     case Type::Number:
         return json.isDouble() && number >= minimum && number <= maximum ? number : QVariant();
     case Type::Text:
@@ -72,7 +75,7 @@ QVariant Setting::fromJson(const QJsonValue &json) const
     case Type::AlphaColor:
         return colorFrom(json.toString(), 8);
     case Type::Choice:
-        return choiceFrom(json, choices);
+        return json.isString() ? choiceFrom(json.toString(), choices) : wholeFrom(json, minimum, maximum);
     }
     return {};
 }
@@ -117,7 +120,10 @@ QString Setting::expectation() const
         QStringList names;
         for (const Choice &choice : choices)
             names.append(choice.name);
-        return QStringLiteral("one of %1, or a whole number").arg(names.join(QStringLiteral(", ")));
+        const QString any = QStringLiteral("one of %1, or a whole number").arg(names.join(QStringLiteral(", ")));
+        if (minimum == LeastInt && maximum == MostInt)
+            return any;
+        return QStringLiteral("%1 from %2 to %3").arg(any).arg(minimum, 0, 'f', 0).arg(maximum, 0, 'f', 0);
     }
     }
     return {};

@@ -6,6 +6,7 @@
 #include <QVariant>
 #include <QVector>
 #include <functional>
+#include <limits>
 
 class TavroPrototype;
 
@@ -29,6 +30,10 @@ struct Setting
         int value;
     };
 
+    /// Range of a whole number.
+    static constexpr int LeastInt = std::numeric_limits<int>::min();
+    static constexpr int MostInt = std::numeric_limits<int>::max();
+
     QString key;   ///< name in the form file
     QString label; ///< name on the screen
     QString group; ///< heading under which it stands
@@ -37,7 +42,8 @@ struct Setting
     /// `scale` is the form's, in pixels per millimetre.
     std::function<void(TavroPrototype &, const QVariant &, double scale)> set;
     QVector<Choice> choices; ///< of a Choice
-    double minimum = 0;      ///< of an Integer or a Number
+    /// Of an Integer, a Number, and the numbers that a Choice takes.
+    double minimum = 0;
     double maximum = 0;
 
     /// Value to give to set(), or an invalid one where the JSON value does not fit.
