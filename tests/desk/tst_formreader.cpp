@@ -348,6 +348,9 @@ void FormReaderTest::refusesObject_data()
         "objects[1].align: expected one of left, right, center, justify, or a whole number, found \"middle\"");
     add("colour", R"({"kind":"line","rect":[1,2,3,4],"lineColor":"red"})",
         "objects[1].lineColor: expected a colour with its opacity such as \"#ff1ba39c\", found \"red\"");
+    add("pen style that is none", R"({"kind":"line","rect":[1,2,3,4],"lineStyle":6})",
+        "objects[1].lineStyle: expected one of none, solid, dash, dot, dashDot, dashDotDot, or a whole number from 0 "
+        "to 5, found 6");
     add("text of two lines", R"({"kind":"line","rect":[1,2,3,4],"print":"a\nb"})",
         "objects[1].print: expected true or false, found \"a\\nb\"");
     add("same identifier", R"({"kind":"edit","rect":[1,2,3,4],"id":"first"})",

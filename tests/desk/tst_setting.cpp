@@ -35,6 +35,7 @@ private Q_SLOTS:
     void toJson();
     void expectation_data();
     void expectation();
+    void choiceOfAnyNumber();
 };
 
 void SettingTest::fromJson_data()
@@ -63,8 +64,8 @@ void SettingTest::fromJson_data()
     add("clear colour", Type::AlphaColor, "\"#00000000\"", 0u);
     add("choice by name", Type::Choice, "\"right\"", 2);
     add("choice by number", Type::Choice, "2", 2);
-    add("choice without a name", Type::Choice, "77", 77);
-    add("negative choice", Type::Choice, "-1", -1);
+    add("choice without a name", Type::Choice, "5", 5);
+    add("negative choice", Type::Choice, "-2", -2);
 }
 
 void SettingTest::fromJson()
@@ -119,6 +120,8 @@ void SettingTest::fromJsonRefuses_data()
     add("colour with a prefix", Type::Color, "\"#0xa39c\"");
     add("alpha colour with a prefix", Type::AlphaColor, "\"#0x1ba39c\"");
     add("choice with a fraction", Type::Choice, "1.5");
+    add("choice below", Type::Choice, "-3");
+    add("choice above", Type::Choice, "6");
     add("choice beyond int", Type::Choice, "4294967297");
     add("choice in capitals", Type::Choice, "\"Left\"");
     add("choice without letters", Type::Choice, "\"\"");
@@ -176,7 +179,7 @@ void SettingTest::expectation_data()
     QTest::newRow("colour") << Type::Color << QStringLiteral("a colour such as \"#1ba39c\"");
     QTest::newRow("alpha colour") << Type::AlphaColor
                                   << QStringLiteral("a colour with its opacity such as \"#ff1ba39c\"");
-    QTest::newRow("choice") << Type::Choice << QStringLiteral("one of left, right, or a whole number");
+    QTest::newRow("choice") << Type::Choice << QStringLiteral("one of left, right, or a whole number from -2 to 5");
 }
 
 void SettingTest::expectation()
@@ -184,6 +187,18 @@ void SettingTest::expectation()
     QFETCH(Setting::Type, type);
     QFETCH(QString, expected);
     QCOMPARE(settingOf(type).expectation(), expected);
+}
+
+void SettingTest::choiceOfAnyNumber()
+{
+    Setting setting = settingOf(Type::Choice);
+    setting.minimum = Setting::LeastInt;
+    setting.maximum = Setting::MostInt;
+    QCOMPARE(setting.expectation(), QStringLiteral("one of left, right, or a whole number"));
+    QCOMPARE(setting.fromJson(-2147483648.0), QVariant(Setting::LeastInt));
+    QCOMPARE(setting.fromJson(2147483647.0), QVariant(Setting::MostInt));
+    QCOMPARE(setting.fromJson(2147483648.0), QVariant());
+    QCOMPARE(setting.fromJson(-2147483649.0), QVariant());
 }
 
 QTEST_APPLESS_MAIN(SettingTest)
