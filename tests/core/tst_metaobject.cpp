@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "core/tavrotext.h"
 #include "graphic/tavroline.h"
+#include "graphic/tavrorect.h"
 #include "tests/support/stricttest.h"
 
 #include <QMetaProperty>
@@ -142,6 +143,11 @@ void TestMetaObject::properties()
     QCOMPARE(propertiesOf(TavroText::staticMetaObject), linesOf(TextProperties));
     QCOMPARE(TavroPrototype::staticMetaObject.superClass(), &QGraphicsObject::staticMetaObject);
     QCOMPARE(TavroText::staticMetaObject.superClass(), &TavroPrototype::staticMetaObject);
+    // Lines and rectangles have no properties beyond the base.
+    for (const QMetaObject *graphic : {&TavroLine::staticMetaObject, &TavroRect::staticMetaObject}) {
+        QCOMPARE(graphic->superClass(), &TavroPrototype::staticMetaObject);
+        QCOMPARE(propertiesOf(*graphic) + signalsOf(*graphic), QStringList());
+    }
 }
 
 void TestMetaObject::signalOrder()
