@@ -3,8 +3,10 @@
 #include "tests/support/itemprobes.h"
 #include "tests/support/stricttest.h"
 
+#include <QGraphicsView>
 #include <QPointer>
 #include <QTest>
+#include <algorithm>
 #include <functional>
 
 namespace {
@@ -28,8 +30,11 @@ public:
         TavroPrototype::setContentData(content);
     }
 
+    void designPaint(QPainter *) override { ++paintCalls; }
+
     int rectCalls = 0;
     int contentCalls = 0;
+    int paintCalls = 0;
 };
 
 bool isFuzzyEqual(const QPointF &a, const QPointF &b)
@@ -58,10 +63,15 @@ private Q_SLOTS:
     void physicalGeometry();
     void pointSizes();
     void boundingRectIsTold();
+    void boundingRectRepaints();
+    void cachedObjectsPaintAgain();
+    void contentIsTold();
     void shapeIsTheRectangle();
     void positionChangeIsTold();
     void paintModes_data();
     void paintModes();
+    void modeIsToldLast();
+    void leavingDesignDeselects();
     void hiddenStaysHiddenInPrint();
     void selectableAndMovable();
     void lockInDesign();
@@ -73,6 +83,7 @@ private Q_SLOTS:
     void renew();
     void validity();
     void hoverRaisesInInput();
+    void hoverAcrossModes();
     void hoverElsewhere_data();
     void hoverElsewhere();
     void rotation();
@@ -233,6 +244,53 @@ void TestPrototype::boundingRectIsTold()
     QCOMPARE(scene.items(QPointF(105, 105)).size(), 1);
 }
 
+void TestPrototype::boundingRectRepaints()
+{
+    QGraphicsScene scene;
+    auto *object = new TavroPrototype;
+    object->setBoundingRect(QRectF(0, 0, 60, 40));
+    scene.addItem(object);
+    QSignalSpy changed(&scene, &QGraphicsScene::changed);
+    QCoreApplication::processEvents();
+    const auto repaints = [&changed](const QRectF &rect) {
+        const auto regions = changed.first().first().value<QList<QRectF>>();
+        return std::any_of(regions.cbegin(), regions.cend(), [&](const QRectF &r) { return r.contains(rect); });
+    };
+    changed.clear();
+    object->setBoundingRect(QRectF(200, 100, 50, 30));
+    QCoreApplication::processEvents();
+    QCOMPARE(changed.count(), 1);
+    QVERIFY(repaints(QRectF(200, 100, 50, 30)));
+    QVERIFY(repaints(QRectF(0, 0, 60, 40)));
+}
+
+// What a subclass paints may depend on more than the rectangle.
+void TestPrototype::cachedObjectsPaintAgain()
+{
+    QGraphicsScene scene(0, 0, 100, 100);
+    auto *object = new CountingObject;
+    object->setBoundingRect(QRectF(10, 10, 60, 40));
+    object->setCacheMode(QGraphicsItem::DeviceCoordinateCache);
+    scene.addItem(object);
+    QGraphicsView view(&scene);
+    view.show();
+    QTRY_VERIFY(object->paintCalls > 0);
+    QCoreApplication::processEvents();
+    object->paintCalls = 0;
+    object->setBoundingRect(QRectF(10, 10, 60, 40));
+    QTRY_VERIFY(object->paintCalls > 0);
+}
+
+void TestPrototype::contentIsTold()
+{
+    TavroPrototype object;
+    QVector<QVariant> seen;
+    connect(&object, &TavroPrototype::contentDataChanged, [&] { seen.append(object.contentData()); });
+    object.setContentData(12.5);
+    object.setContentData(12.5);
+    QCOMPARE(seen, QVector<QVariant>({12.5, 12.5}));
+}
+
 void TestPrototype::shapeIsTheRectangle()
 {
     TavroPrototype object;
@@ -312,6 +370,39 @@ void TestPrototype::paintModes()
     QTEST(object.flags().testFlag(QGraphicsItem::ItemIsSelectable), "selectable");
     object.setPaintMode(static_cast<Paint_Mode>(mode));
     QCOMPARE(told.count(), 2);
+}
+
+// Who listens finds the object as the mode leaves it.
+void TestPrototype::modeIsToldLast()
+{
+    TavroPrototype object;
+    object.setObjVisible(false);
+    object.setObjEnabled(false);
+    QVector<QVector<bool>> seen;
+    connect(&object, &TavroPrototype::paintModeChanged, [&] {
+        seen.append({object.isVisible(), object.isEnabled(), object.flags().testFlag(QGraphicsItem::ItemIsMovable),
+                     object.flags().testFlag(QGraphicsItem::ItemIsSelectable)});
+    });
+    object.setPaintMode(Paint_Input);
+    object.setPaintMode(Paint_Design);
+    QCOMPARE(seen, QVector<QVector<bool>>({QVector<bool>(4, false), QVector<bool>(4, true)}));
+}
+
+void TestPrototype::leavingDesignDeselects()
+{
+    TavroPrototype object;
+    for (const Paint_Mode mode : {Paint_Input, Paint_Print}) {
+        object.setSelected(true);
+        QCOMPARE(probes::visibleHandles(object).size(), 8);
+        object.setPaintMode(mode);
+        QVERIFY(!object.isSelected());
+        QVERIFY(probes::visibleHandles(object).isEmpty());
+        QVERIFY(!probes::dashRectOf(object)->isVisible());
+        object.setPaintMode(Paint_Design);
+        QVERIFY(!object.isSelected());
+        QVERIFY(probes::visibleHandles(object).isEmpty());
+        QVERIFY(!probes::dashRectOf(object)->isVisible());
+    }
 }
 
 void TestPrototype::hiddenStaysHiddenInPrint()
@@ -476,6 +567,26 @@ void TestPrototype::hoverRaisesInInput()
     probes::hover(scene, *object, QEvent::GraphicsSceneHoverEnter);
     probes::hover(scene, *object, QEvent::GraphicsSceneHoverLeave);
     QCOMPARE(object->zValue(), -3.0);
+}
+
+// The pointer stays over the object while its host switches the mode.
+void TestPrototype::hoverAcrossModes()
+{
+    QGraphicsScene scene;
+    auto *object = new TavroPrototype;
+    scene.addItem(object);
+    object->setZValue(7);
+    // Nothing was saved yet.
+    probes::hover(scene, *object, QEvent::GraphicsSceneHoverEnter);
+    object->setPaintMode(Paint_Input);
+    probes::hover(scene, *object, QEvent::GraphicsSceneHoverLeave);
+    QCOMPARE(object->zValue(), 0.0);
+    // Entered in input, left in design.
+    object->setZValue(7);
+    probes::hover(scene, *object, QEvent::GraphicsSceneHoverEnter);
+    object->setPaintMode(Paint_Design);
+    probes::hover(scene, *object, QEvent::GraphicsSceneHoverLeave);
+    QCOMPARE(object->zValue(), 1000.0);
 }
 
 void TestPrototype::hoverElsewhere_data()
