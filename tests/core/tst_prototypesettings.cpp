@@ -97,6 +97,7 @@ private Q_SLOTS:
     void binding();
     void identifierIsTheToolTip();
     void settersTouchTheirFieldOnly();
+    void operationsDoNotMark();
 };
 
 void TestPrototypeSettings::prototype()
@@ -183,9 +184,17 @@ void TestPrototypeSettings::identifierIsTheToolTip()
     QSignalSpy changed(&object, &P::tavroIDChanged);
     // Listeners read the identifier; the mark and the tool tip follow.
     QString seen;
-    connect(&object, &P::tavroIDChanged, [&] { seen = object.tavroID(); });
+    QString seenToolTip;
+    bool seenMark = true;
+    connect(&object, &P::tavroIDChanged, [&] {
+        seen = object.tavroID();
+        seenToolTip = object.toolTip();
+        seenMark = object.isModified();
+    });
     object.setTavroID(QStringLiteral("payee"));
     QCOMPARE(seen, QStringLiteral("payee"));
+    QCOMPARE(seenToolTip, QString());
+    QCOMPARE(seenMark, false);
     QCOMPARE(object.toolTip(), QStringLiteral("payee"));
     object.setTavroID(QStringLiteral("payee"));
     QCOMPARE(changed.count(), 2);
@@ -210,6 +219,32 @@ void TestPrototypeSettings::settersTouchTheirFieldOnly()
                          QStringLiteral("%1 changed %2").arg(QLatin1String(written.name), QLatin1String(other.name))));
         }
     }
+}
+
+// Only settings are saved with the form.
+void TestPrototypeSettings::operationsDoNotMark()
+{
+    P object;
+    object.setBoundingRect(QRectF(0, 0, 100, 60));
+    object.setRotateAngle(30);
+    object.setSelected(true);
+    object.setPos(5, 5);
+    object.resize(Handle_Right, QPointF(150, 0));
+    object.moveObjBy(QPointF(1, 1));
+    object.setObjCenter(QPointF(1, 1));
+    object.updateGeometry();
+    object.updateObjRotation();
+    object.setSelectableAndMovable(false);
+    object.onLockedChanged();
+    object.showResizerHandle(true);
+    object.showDashRect(true);
+    object.setLeadingFlag(false);
+    object.bringObjToFront();
+    object.raiseObjUp();
+    object.lowerObjDown();
+    object.bringObjToBack();
+    object.renew();
+    QVERIFY(!object.isModified());
 }
 
 QTEST_MAIN(TestPrototypeSettings)
