@@ -93,10 +93,17 @@ void TestPrototypePainting::dispatch()
     DispatchProbe object;
     object.setBoundingRect(Rect);
     object.setPaintMode(static_cast<Paint_Mode>(mode));
-    QVERIFY(probes::paintedBy(object).isEmpty());
-    QCOMPARE(object.calls, calls);
     const QPainter::RenderHints wanted =
         QPainter::Antialiasing | QPainter::TextAntialiasing | QPainter::SmoothPixmapTransform;
+    RecordingDevice device;
+    QPainter painter(&device);
+    // A new painter has one of the hints already.
+    painter.setRenderHints(wanted, false);
+    const QStyleOptionGraphicsItem option;
+    object.paint(&painter, &option, nullptr);
+    painter.end();
+    QVERIFY(device.commands().isEmpty());
+    QCOMPARE(object.calls, calls);
     if (!calls.isEmpty())
         QCOMPARE(object.hints & wanted, wanted);
 }
@@ -201,6 +208,16 @@ void TestPrototypePainting::lockedSign()
     QVERIFY(!sign.isNull());
     QCOMPARE(painted.commands.first().kind, PaintCommand::Image);
     QCOMPARE(painted.commands.first().rect, QRectF(Rect.topLeft(), sign.size()));
+
+    QImage canvas(sign.size(), QImage::Format_ARGB32_Premultiplied);
+    canvas.fill(Qt::transparent);
+    const QImage blank = canvas;
+    QPainter painter(&canvas);
+    painter.translate(-Rect.topLeft());
+    object.drawLockedSign(&painter);
+    painter.end();
+    QCOMPARE(canvas, sign.convertToFormat(canvas.format()));
+    QVERIFY(canvas != blank);
 }
 
 void TestPrototypePainting::modes()
