@@ -50,6 +50,7 @@ class TestHandles : public StrictTest
     Q_OBJECT
 
 private Q_SLOTS:
+    void stateNumbers();
     void madeOnce();
     void places_data();
     void places();
@@ -75,6 +76,16 @@ private Q_SLOTS:
     void frameRepaintsOnChangesOnly();
     void frameIsFoundWhereItIsPainted();
 };
+
+void TestHandles::stateNumbers()
+{
+    QCOMPARE(static_cast<int>(Handle_Off), 0);
+    QCOMPARE(static_cast<int>(Handle_Inactive), 1);
+    QCOMPARE(static_cast<int>(Handle_Active), 2);
+    QCOMPARE(static_cast<int>(DashRect_Off), 0);
+    QCOMPARE(static_cast<int>(DashRect_Inactive), 1);
+    QCOMPARE(static_cast<int>(DashRect_Active), 2);
+}
 
 void TestHandles::madeOnce()
 {
