@@ -135,15 +135,17 @@ void TestStackingOrder::handlesAndFramesAreNoMembers()
     QGraphicsScene scene;
     TavroPrototype *object = addObject(scene, QRectF(0, 0, 100, 100), 1);
     // The neighbour's handles and frame reach into the object, its rectangle does not.
-    TavroPrototype *neighbour = addObject(scene, QRectF(102, 0, 100, 100), 2);
+    TavroPrototype *neighbour = addObject(scene, QRectF(100.25, 0, 100, 100), 2);
     neighbour->setSelected(true);
     const QList<QGraphicsItem *> touched = object->collidingItems(Qt::IntersectsItemBoundingRect);
     QVERIFY(touched.contains(probes::handlesOf(*neighbour).first()));
+    QVERIFY(touched.contains(probes::dashRectOf(*neighbour)));
     QVERIFY(!touched.contains(neighbour));
     object->bringObjToFront();
     QCOMPARE(zValues({object, neighbour}), QVector<qreal>({1, 2}));
     for (const SizeHandleRect *handle : probes::handlesOf(*neighbour))
         QCOMPARE(handle->zValue(), 0.0);
+    QCOMPARE(probes::dashRectOf(*neighbour)->zValue(), 0.0);
 }
 
 void TestStackingOrder::equalValuesStay()
