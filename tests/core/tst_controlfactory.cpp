@@ -68,6 +68,15 @@ void TestControlFactory::noKinds_data()
     QTest::newRow("far above") << 1000;
     QTest::newRow("unset") << -1;
     QTest::newRow("smallest number") << std::numeric_limits<int>::min();
+    // Named, but without a class yet.
+    QTest::newRow("financial edit") << 4;
+    QTest::newRow("separated edit") << 5;
+    QTest::newRow("check box") << 6;
+    QTest::newRow("combo box") << 8;
+    QTest::newRow("date and time") << 9;
+    QTest::newRow("picture") << 10;
+    QTest::newRow("barcode") << 11;
+    QTest::newRow("table") << 12;
 }
 
 void TestControlFactory::noKinds()
