@@ -31,12 +31,11 @@ QVector<qreal> restacked(const QVector<qreal> &zValues, int moved, Move move)
         break;
     }
 
-    QVector<qreal> sorted(zValues);
-    std::sort(sorted.begin(), sorted.end());
-    order.move(from, to);
+    QVector<int> newOrder(order);
+    newOrder.move(from, to);
     QVector<qreal> result(zValues.size());
     for (int i = 0; i <= last; ++i)
-        result[order.at(i)] = sorted.at(i);
+        result[newOrder.at(i)] = zValues.at(order.at(i));
     return result;
 }
 
