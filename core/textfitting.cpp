@@ -14,21 +14,21 @@ namespace {
 // sizes that cannot fit are skipped. Without the skip a size typed with too many zeros would hang the program.
 constexpr int ProportionalSize = 256;
 
-struct Layout
+struct Lines
 {
-    int lineCount;
+    int count;
     qreal height;
 };
 
-Layout layOut(QTextLayout &layout, qreal width)
+Lines brokenLines(QTextLayout &layout, qreal width)
 {
-    Layout result{0, 0};
+    Lines result{0, 0};
     layout.beginLayout();
     for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
         line.setLineWidth(width);
         line.setPosition(QPointF(0, result.height));
         result.height += line.height();
-        ++result.lineCount;
+        ++result.count;
     }
     layout.endLayout();
     return result;
@@ -47,7 +47,10 @@ int largestCandidate(int size, qreal extent, qreal constant, qreal wanted, int p
     if (!(perPixel > 0))
         return size - 1;
     const qreal candidate = std::ceil((wanted + parts) / perPixel) + 1;
-    return static_cast<int>(std::clamp<qreal>(candidate, 1, size - 1));
+    // Written so that "not a number" fails it, as nothing fits into a box of such a size.
+    if (!(candidate > 1))
+        return 1;
+    return static_cast<int>(std::min<qreal>(candidate, size - 1));
 }
 
 // The same for `text` on one line.
@@ -95,9 +98,9 @@ WrappedFit wrappedAndShrunk(const QFont &font, const QString &text, const QSizeF
     layout.setCacheEnabled(true);
     for (;;) {
         layout.setFont(fit.font);
-        const Layout lines = layOut(layout, box.width());
-        fit.lineCount = lines.lineCount;
-        if (lines.lineCount < 2 || box.height() > lines.height)
+        const Lines lines = brokenLines(layout, box.width());
+        fit.lineCount = lines.count;
+        if (lines.count < 2 || box.height() > lines.height)
             return fit;
         const int size = fit.font.pixelSize();
         int next = nextSize(size);
