@@ -120,10 +120,9 @@ void TavroPrototype::setupReszHandleAndDashRect()
 
 void TavroPrototype::setupHandles(const QVector<HandleDirect> &directions)
 {
-    constexpr int mostHandles = 9;
     qDeleteAll(m_handles);
     m_handles.clear();
-    m_handles.reserve(mostHandles);
+    m_handles.reserve(directions.size());
     for (const HandleDirect direction : directions)
         m_handles.append(new SizeHandleRect(this, direction));
     updateGeometry();

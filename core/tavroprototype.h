@@ -53,6 +53,7 @@ public:
     /// Moves the edges that the handle owns to a point of the scene and ends in one setBoundingRect(), also where
     /// nothing changes. No minimum size: an edge dragged past the opposite one gives a negative size.
     virtual void resize(HandleDirect direction, const QPointF &scenePoint);
+    /// Whether the value fits what the kind accepts; a kind without a rule of its own accepts every value.
     virtual bool isValid();
     /// Makes the resize handles and the dashed frame, once, from the constructor.
     virtual void setupReszHandleAndDashRect();
@@ -174,7 +175,9 @@ public:
     bool isBindingToDB() const;
 
     // painting for kinds
+    /// 1 px wide and inside the rectangle; nothing where hasBorder() is not set.
     void drawBorder(QPainter *painter);
+    /// In the top-left corner, while the object is both locked and selected.
     void drawLockedSign(QPainter *painter);
     /// Background colour at 40 %.
     void fillBackground(QPainter *painter, const QRectF &rect);
@@ -183,6 +186,7 @@ public:
     /// First visible handle, in the order of creation, that contains the point of the scene, else Handle_None.
     HandleDirect hitTest(const QPointF &scenePoint) const;
     void showResizerHandle(bool show);
+    /// Where the object is proportional, the handles of its edges stay off.
     void setReszHandleState(SelectionHandleState state);
     void showDashRect(bool show);
     void setDashRectState(SelectionDashRectState state);
@@ -194,13 +198,14 @@ public:
     /// corner back inwards, following the signs of the rectangle.
     QPointF adjustExpectRect(QRectF rect, QSizeF size, bool leading) const;
 
-    // stacking among the form objects that the object overlaps; needs a scene
+    // stacking among the form objects that the object overlaps; without a scene nothing happens
     void bringObjToBack();
     void bringObjToFront();
     void raiseObjUp();
     void lowerObjDown();
 
     // others
+    /// A locked object never becomes movable.
     void setSelectableAndMovable(bool able);
     /// Turns the object by its rotation angle about its centre, on top of the transform that it has: two calls turn
     /// twice.

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 // Geometry and stacking of a form object: the part of the prototype that moves things.
+#include "core/tavroprototype.h"
+
 #include "core/resizing.h"
 #include "core/sizedashrect.h"
 #include "core/sizehandlerect.h"
 #include "core/stacking.h"
-#include "core/tavroprototype.h"
 #include "core/units.h"
 
 double TavroPrototype::objX() const

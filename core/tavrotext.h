@@ -67,7 +67,7 @@ public:
     void setFontColor(const unsigned int &color);
 
     // fitting
-    /// Derives the pixel size from the point size, and gives it to the drawing font.
+    /// Derives the pixel size from the point size, and gives it to the drawing font, which is not re-fitted.
     void syncFontPixSz();
     /// Points of a font size in pixels through the physical rectangle; infinite or not a number without a pixel width.
     double pixSzToPointSz(int pixels) const;
