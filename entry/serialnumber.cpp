@@ -3,6 +3,8 @@
 
 #include <algorithm>
 
+namespace serialnumber {
+
 namespace {
 
 // Digit at `place`, counted from the right; 0 to the left of the number.
@@ -30,3 +32,5 @@ QString sumOfNumString(const QString &a, const QString &b)
         sum.prepend(QLatin1Char('1'));
     return sum;
 }
+
+} // namespace serialnumber

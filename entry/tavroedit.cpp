@@ -14,6 +14,7 @@
 #include <QPainter>
 #include <QSignalBlocker>
 #include <QTimer>
+#include <cmath>
 
 namespace {
 
@@ -23,6 +24,13 @@ QString textOf(const QVariant &value)
     if (type == QMetaType::Double || type == QMetaType::Float)
         return QString::number(value.toDouble(), 'g', 6);
     return value.toString();
+}
+
+// QRectF::toRect() in floating point: no size overflows an int.
+QRectF onWholePixels(const QRectF &rect)
+{
+    const auto rounded = [](qreal coordinate) { return std::floor(coordinate + 0.5); };
+    return {QPointF(rounded(rect.left()), rounded(rect.top())), QPointF(rounded(rect.right()), rounded(rect.bottom()))};
 }
 
 } // namespace
@@ -265,6 +273,12 @@ QString TavroEdit::contentText() const
     return textOf(contentData());
 }
 
+// The plain string, not the six digits of contentText(): a floating-point 12345.67 keeps its cents.
+QString TavroEdit::amountContent() const
+{
+    return contentData().toString();
+}
+
 void TavroEdit::convertIfValid(const QString &text)
 {
     if (isMatched(text) && isUsrDefineRegExpMatch(text))
@@ -291,13 +305,8 @@ void TavroEdit::modifyTextAsFormatType()
     case Format_RmbCapitalYuan:
     case Format_UsdCapital:
     case Format_RmbCapitalNoSuffix:
-        convertDigitsToMoneyFormat();
-        if (m_formatType == Format_RmbCapitalNoSuffix)
-            chineseamount::joinZeros(m_displayText);
-        else
-            completeSuffix();
-        chineseamount::nameCurrency(m_displayText, m_formatType);
-        chineseamount::addZeros(m_displayText, {m_addZeroBeforeThousand, m_addZeroBeforeJiao});
+        m_displayText =
+            chineseamount::amountText(amountContent(), m_formatType, {m_addZeroBeforeThousand, m_addZeroBeforeJiao});
         break;
     case Format_EnglishAmount:
         convertDigitsToEnglishMoneyFormat();
@@ -334,10 +343,9 @@ void TavroEdit::handleAllZero()
     }
 }
 
-// The plain string, not the six digits of contentText(): a floating-point 12345.67 keeps its cents.
 void TavroEdit::convertDigitsToMoneyFormat()
 {
-    chineseamount::appendPlaces(m_displayText, contentData().toString());
+    chineseamount::appendPlaces(m_displayText, amountContent());
 }
 
 void TavroEdit::completeSuffix()
@@ -353,14 +361,14 @@ void TavroEdit::convertDigitsToEnglishMoneyFormat()
 void TavroEdit::increaseSerialNum()
 {
     const QString number = contentText();
-    const QString next = sumOfNumString(number, QStringLiteral("1"));
+    const QString next = serialnumber::sumOfNumString(number, QStringLiteral("1"));
     qDebug() << number << next << ":increasedNum";
     setContentData(next);
 }
 
 QString TavroEdit::sumOfNumString(const QString &a, const QString &b) const
 {
-    return ::sumOfNumString(a, b);
+    return serialnumber::sumOfNumString(a, b);
 }
 
 // Neither saves the painter: nothing is drawn after them that does not set its own pen, the scene protects its items
@@ -429,8 +437,8 @@ void TavroEdit::syncTextEditGeometry()
 {
     if (!m_widgetPrxy)
         return;
-    const int inset = borderWpx();
-    m_widgetPrxy->setGeometry(boundingRect().toRect().adjusted(inset, inset, -inset, -inset));
+    const qreal inset = borderWpx();
+    m_widgetPrxy->setGeometry(onWholePixels(boundingRect()).adjusted(inset, inset, -inset, -inset));
 }
 
 void TavroEdit::syncTextEditFont()

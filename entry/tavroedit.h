@@ -13,7 +13,7 @@ class TextEdit;
 /// serial number, or a number shown through a pattern. Bad input is never refused: the content keeps it, the shown text
 /// is empty and invalidDataOccured() is emitted. Converted texts change with the next content, not with a setter. Hosts
 /// give amounts as strings: a floating-point content is read with six significant digits. contentDataChanged() comes
-/// before the conversion: displayText() is up to date when the setter returns.
+/// before the conversion: displayText() is up to date when the setter returns. A new object counts as modified.
 class TAVRO_EXPORT TavroEdit : public TavroText
 {
     Q_OBJECT
@@ -30,7 +30,8 @@ public:
     void setPresetData(const QVariant &preset) override;
     /// Every mode but input hides the editor.
     void setPaintMode(const Paint_Mode &mode) override;
-    /// Whether the content fits the format and the user pattern. An empty required field is the host's to find.
+    /// Whether the content fits the format and the user pattern; empties the shown text where it does not. An empty
+    /// required field is the host's to find.
     bool isValid() override;
     void designPaint(QPainter *painter) override;
     void inputPaint(QPainter *painter) override;
@@ -70,12 +71,17 @@ public:
 
     // conversion of the content into the shown text
     QString displayText() const;
+    /// Converts anew, without asking whether the content is valid.
     void modifyTextAsFormatType();
     bool isAllZero(const QString &text) const;
+    /// Shows what stands for an amount of nothing, unless isZeroClear().
     void handleAllZero();
+    /// First stage of an amount in Chinese capitals: appends numerals and units to the shown text.
     void convertDigitsToMoneyFormat();
+    /// Second stage: joins the zeros of the shown text and writes 整 for empty cents.
     void completeSuffix();
     void convertDigitsToEnglishMoneyFormat();
+    /// Sets the content to the next number.
     void increaseSerialNum();
     /// Sum of two strings of decimal digits of any length, as wide as the longer one.
     QString sumOfNumString(const QString &a, const QString &b) const;
@@ -110,6 +116,7 @@ protected:
 
 private:
     QString contentText() const;
+    QString amountContent() const;
     void postAdjustTextStyle();
     void convertIfValid(const QString &text);
 

@@ -42,7 +42,7 @@ void writeAmounts(const QString &content)
     static const QRegExp allZero(QStringLiteral("(^0+\\.{0,1}0*$)|(^0*\\.{0,1}0+$)|^0+$"));
     require(chineseamount::isAllZero(content) == allZero.exactMatch(content));
 
-    const QString next = sumOfNumString(content, QStringLiteral("1"));
+    const QString next = serialnumber::sumOfNumString(content, QStringLiteral("1"));
     require(next.size() - content.size() <= 1);
 }
 

@@ -46,7 +46,7 @@ void SerialNumberTest::sum()
     QFETCH(const QString, a);
     QFETCH(const QString, b);
     QFETCH(const QString, expected);
-    QCOMPARE(sumOfNumString(a, b), expected);
+    QCOMPARE(serialnumber::sumOfNumString(a, b), expected);
 }
 
 void SerialNumberTest::sumsOfIntegers()
@@ -59,8 +59,8 @@ void SerialNumberTest::sumsOfIntegers()
         const QString b = QString::number(random.bounded(1000));
         const QString expected =
             QString::number(a.toInt() + b.toInt()).rightJustified(std::max(a.size(), b.size()), QLatin1Char('0'));
-        QCOMPARE(sumOfNumString(a, b), expected);
-        QCOMPARE(sumOfNumString(b, a), expected);
+        QCOMPARE(serialnumber::sumOfNumString(a, b), expected);
+        QCOMPARE(serialnumber::sumOfNumString(b, a), expected);
     }
 }
 
