@@ -62,7 +62,7 @@ QJsonObject recordOf(int page)
     return record;
 }
 
-// Opens a page and a painter, calls `paintPage` for each page, and counts the bytes.
+// Writes a file in memory, with `paintPage` for each of its pages.
 template <typename PaintPage>
 void printPages(const QSizeF &pageSize, int pages, PaintPage paintPage)
 {

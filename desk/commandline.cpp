@@ -42,6 +42,19 @@ struct Request
     bool wantsHelp = false;
 };
 
+// The error, empty where the text is a resolution.
+QString parseDpi(const QString &text, int *dpi)
+{
+    bool isNumber = false;
+    *dpi = text.toInt(&isNumber);
+    if (isNumber && *dpi >= printing::LeastDpi && *dpi <= printing::MostDpi)
+        return {};
+    return QStringLiteral("--dpi: expected a whole number from %1 to %2, found \"%3\"")
+        .arg(printing::LeastDpi)
+        .arg(printing::MostDpi)
+        .arg(text);
+}
+
 // The error, empty where the arguments make a request.
 QString parse(const QStringList &arguments, Request *request)
 {
@@ -76,16 +89,7 @@ QString parse(const QStringList &arguments, Request *request)
         return QStringLiteral("--output, --dpi and --force belong to the command print");
     if (prints && !printing::isKnownFormat(request->outputFile))
         return QStringLiteral("expected --output with a file name that ends with .pdf, .png or .svg");
-    if (parser.isSet(dpi)) {
-        bool isNumber = false;
-        request->dpi = parser.value(dpi).toInt(&isNumber);
-        if (!isNumber || request->dpi < printing::LeastDpi || request->dpi > printing::MostDpi)
-            return QStringLiteral("--dpi: expected a whole number from %1 to %2, found \"%3\"")
-                .arg(printing::LeastDpi)
-                .arg(printing::MostDpi)
-                .arg(parser.value(dpi));
-    }
-    return {};
+    return parser.isSet(dpi) ? parseDpi(parser.value(dpi), &request->dpi) : QString();
 }
 
 ExitCode fail(QTextStream &err, const QString &message)

@@ -2,6 +2,7 @@
 #include "desk/form.h"
 
 #include "core/tavrotext.h"
+#include "desk/formwords.h"
 #include "graphic/tavroline.h"
 #include "graphic/tavrorect.h"
 
@@ -71,7 +72,8 @@ QStringList Form::unknownNames() const
         if (entry.object)
             names += settings(path, entry.unknown);
         else
-            names += QStringLiteral("%1kind \"%2\"").arg(path, entry.unknown.value(QLatin1String("kind")).toString());
+            names += QStringLiteral("%1kind \"%2\"")
+                         .arg(path, entry.unknown.value(QLatin1String(formwords::Kind)).toString());
     }
     return names;
 }

@@ -48,7 +48,7 @@ public:
     void setGeometry(TavroPrototype *object, const QRectF &millimetres) const;
     /// Brings the fonts up to date with text and geometry, which objects else do when the event loop turns.
     void fitTexts() const;
-    /// Names what a reader of this version does not know, with its place: "objects[3].kind "hologram"".
+    /// Names what a reader of this version does not know, with its place: objects[3]: kind "hologram".
     QStringList unknownNames() const;
 
 private:

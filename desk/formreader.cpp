@@ -2,14 +2,13 @@
 #include "desk/formreader.h"
 
 #include "core/controlfactory.h"
-#include "core/tavrotext.h"
+#include "core/tavroprototype.h"
 #include "desk/catalogue.h"
 #include "desk/formwords.h"
 #include "desk/jsonfile.h"
 
 #include <QHash>
 #include <QJsonArray>
-#include <cmath>
 
 namespace formreader {
 

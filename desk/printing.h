@@ -10,9 +10,9 @@ class QRectF;
 /// Puts forms on paper at true size.
 namespace printing {
 
-constexpr int LeastDpi = 10;
-constexpr int MostDpi = 4800;
-constexpr int UsualDpi = 300;
+inline constexpr int LeastDpi = 10;
+inline constexpr int MostDpi = 4800;
+inline constexpr int UsualDpi = 300;
 
 /// Switches the form to printing, as after filling it in: what is invisible while filling in is not printed.
 void prepare(Form *form);

@@ -37,7 +37,7 @@ struct Setting
     QString key;   ///< name in the form file
     QString label; ///< name on the screen
     QString group; ///< heading under which it stands
-    Type type;
+    Type type = Type::Flag;
     std::function<QVariant(const TavroPrototype &)> get;
     /// `scale` is the form's, in pixels per millimetre.
     std::function<void(TavroPrototype &, const QVariant &, double scale)> set;
