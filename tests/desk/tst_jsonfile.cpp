@@ -86,8 +86,8 @@ void JsonFileTest::refuses_data()
     add("name twice", "{\"a\":1,\n \"a\":2}", "line 2, column 2: expected each name once in an object");
     add("name twice deep inside", R"({"a":[{"b":{"c":1,"d":[],"c":2}}]})",
         "line 1, column 26: expected each name once in an object");
-    add("name twice after an inner object", R"({"a":{"b":1},"a":2})",
-        "line 1, column 14: expected each name once in an object");
+    add("name twice after an inner object", R"({"a":1,"c":{"b":1},"a":2})",
+        "line 1, column 20: expected each name once in an object");
     add("name twice, once escaped", R"({"a":1,"\u0061":2})", "line 1, column 8: expected each name once in an object");
     add("name twice, space before the colon", "{\"a\":1,\"a\" \t\r\n:2}",
         "line 1, column 8: expected each name once in an object");
