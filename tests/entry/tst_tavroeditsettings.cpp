@@ -9,6 +9,7 @@
 #include <QSignalBlocker>
 #include <QSignalSpy>
 #include <QTest>
+#include <limits>
 
 namespace {
 
@@ -275,6 +276,10 @@ void TestTavroEditSettings::geometryIsInsetByTheBorder_data()
     QTest::newRow("low field") << QRectF(0, 0, 30, 10) << 1 << QRectF(1, 1, 28, 8);
     QTest::newRow("no room within the border") << QRectF(0, 0, 2, 2) << 1 << QRectF(1, 1, 0, 0);
     QTest::newRow("less than the border") << QRectF(0, 0, 1, 1) << 1 << QRectF(1, 1, 0, 0);
+    QTest::newRow("far to the left") << QRectF(-1e12, 0, 30, 20) << 1 << QRectF(-1e12 + 1, 1, 28, 18);
+    const int widest = std::numeric_limits<int>::max();
+    QTest::newRow("border beyond everything")
+        << QRectF(5, 5, 100, 20) << widest << QRectF(widest + 5.0, widest + 5.0, 0, 0);
 }
 
 void TestTavroEditSettings::geometryIsInsetByTheBorder()
