@@ -223,6 +223,13 @@ Q_SIGNALS:
 
 protected:
     void setObjType(ObjType type);
+    /// Stores a persistent setting: marks modified.
+    template <typename T>
+    void storeSetting(T &field, const T &value)
+    {
+        field = value;
+        m_isModified = true;
+    }
     /// Value as an editor writes it back: no signal, nothing else.
     void storeContent(const QVariant &content);
     /// Everything of the base setBoundingRect() but the repaint and the signal.
@@ -231,12 +238,6 @@ protected:
     void setupHandles(const QVector<HandleDirect> &directions);
 
 private:
-    template <typename T>
-    void storeSetting(T &field, const T &value)
-    {
-        field = value;
-        m_isModified = true;
-    }
     void applyLock();
     void restack(stacking::Move move);
 

@@ -203,8 +203,7 @@ unsigned int TavroText::fontColor() const
 
 void TavroText::setFontColor(const unsigned int &color)
 {
-    m_fontColor = color;
-    setIsModified(true);
+    storeSetting(m_fontColor, color);
 }
 
 void TavroText::syncFontPixSz()

@@ -175,8 +175,7 @@ QString TavroEdit::customizedFormat() const
 
 void TavroEdit::setCustomizedFormat(const QString &pattern)
 {
-    m_customizedFormat = pattern;
-    setIsModified(true);
+    storeSetting(m_customizedFormat, pattern);
 }
 
 bool TavroEdit::isZeroClear() const
@@ -186,8 +185,7 @@ bool TavroEdit::isZeroClear() const
 
 void TavroEdit::setIsZeroClear(bool clear)
 {
-    m_isZeroClear = clear;
-    setIsModified(true);
+    storeSetting(m_isZeroClear, clear);
 }
 
 QString TavroEdit::usrRegExpPattern() const
@@ -197,8 +195,7 @@ QString TavroEdit::usrRegExpPattern() const
 
 void TavroEdit::setUsrRegExpPattern(const QString &pattern)
 {
-    m_usrRegExpPattern = UserPattern(pattern);
-    setIsModified(true);
+    storeSetting(m_usrRegExpPattern, UserPattern(pattern));
 }
 
 QString TavroEdit::placeholder() const

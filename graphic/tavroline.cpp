@@ -75,8 +75,7 @@ double TavroLine::lineWidthPhy() const
 
 void TavroLine::setLineWidthPhy(const double &width)
 {
-    m_stroke.widthPhy = width;
-    setIsModified(true);
+    storeSetting(m_stroke.widthPhy, width);
 }
 
 unsigned int TavroLine::lineColor() const
@@ -86,8 +85,7 @@ unsigned int TavroLine::lineColor() const
 
 void TavroLine::setLineColor(const unsigned int &color)
 {
-    m_stroke.color = color;
-    setIsModified(true);
+    storeSetting(m_stroke.color, color);
 }
 
 Qt::PenStyle TavroLine::lineStyle() const
@@ -97,8 +95,7 @@ Qt::PenStyle TavroLine::lineStyle() const
 
 void TavroLine::setLineStyle(const Qt::PenStyle &style)
 {
-    m_stroke.style = style;
-    setIsModified(true);
+    storeSetting(m_stroke.style, style);
 }
 
 void TavroLine::drawLine(QPainter *painter)

@@ -54,8 +54,7 @@ double TavroRect::lineWidthPhy() const
 
 void TavroRect::setLineWidthPhy(const double &width)
 {
-    m_stroke.widthPhy = width;
-    setIsModified(true);
+    storeSetting(m_stroke.widthPhy, width);
 }
 
 unsigned int TavroRect::lineColor() const
@@ -65,8 +64,7 @@ unsigned int TavroRect::lineColor() const
 
 void TavroRect::setLineColor(const unsigned int &color)
 {
-    m_stroke.color = color;
-    setIsModified(true);
+    storeSetting(m_stroke.color, color);
 }
 
 Qt::PenStyle TavroRect::lineStyle() const
@@ -76,8 +74,7 @@ Qt::PenStyle TavroRect::lineStyle() const
 
 void TavroRect::setLineStyle(const Qt::PenStyle &style)
 {
-    m_stroke.style = style;
-    setIsModified(true);
+    storeSetting(m_stroke.style, style);
 }
 
 void TavroRect::drawRect(QPainter *painter)
