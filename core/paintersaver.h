@@ -3,18 +3,42 @@
 
 #include <QPainter>
 
-/// Keeps a painter's state for the length of a scope.
+/// Keeps for the length of a scope what form objects change on a painter: pen, brush, font, opacity and render hints.
+/// Not the clip, not the transform. QPainter::save() would keep them too, but flushes the state into the device each
+/// time: on paper that writes a pen that nothing is drawn with, for every line of every form.
 class PainterSaver
 {
 public:
     explicit PainterSaver(QPainter *painter)
         : m_painter(painter)
+        , m_pen(painter->pen())
+        , m_brush(painter->brush())
+        , m_font(painter->font())
+        , m_opacity(painter->opacity())
+        , m_hints(painter->renderHints())
     {
-        m_painter->save();
     }
-    ~PainterSaver() { m_painter->restore(); }
+    ~PainterSaver()
+    {
+        m_painter->setPen(m_pen);
+        m_painter->setBrush(m_brush);
+        if (m_painter->font() != m_font)
+            m_painter->setFont(m_font);
+        if (m_painter->opacity() != m_opacity)
+            m_painter->setOpacity(m_opacity);
+        const QPainter::RenderHints changed = m_painter->renderHints() ^ m_hints;
+        if (changed) {
+            m_painter->setRenderHints(changed & m_hints, true);
+            m_painter->setRenderHints(changed & ~m_hints, false);
+        }
+    }
     Q_DISABLE_COPY(PainterSaver)
 
 private:
     QPainter *m_painter;
+    QPen m_pen;
+    QBrush m_brush;
+    QFont m_font;
+    qreal m_opacity;
+    QPainter::RenderHints m_hints;
 };

@@ -41,7 +41,11 @@ QString oneLine(const QString &text)
 QString quoted(const QString &text)
 {
     constexpr int mostCharacters = 60;
-    const QString shown = text.size() > mostCharacters ? text.left(mostCharacters) + QStringLiteral("...") : text;
+    QString shown = text;
+    if (text.size() > mostCharacters) {
+        const bool splitsPair = text.at(mostCharacters - 1).isHighSurrogate();
+        shown = text.left(splitsPair ? mostCharacters - 1 : mostCharacters) + QStringLiteral("...");
+    }
     return QLatin1Char('"') + oneLine(shown) + QLatin1Char('"');
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "entry/tavroedit.h"
 
+#include "core/paintersaver.h"
 #include "entry/chineseamount.h"
 #include "entry/englishamount.h"
 #include "entry/inputformat.h"
@@ -70,11 +71,11 @@ void TavroEdit::setBoundingRect(const QRectF &rect)
 
 void TavroEdit::setContentData(const QVariant &content)
 {
-    // A slot may give the object another content while the signal is out; what was passed in is validated all the same.
-    const QVariant value = content;
-    TavroPrototype::setContentData(value);
+    TavroPrototype::setContentData(content);
     syncTextEditContent();
-    convertIfValid(textOf(value));
+    // A slot may have given the object another content while the signal was out. What it holds by now is validated,
+    // since that is what is converted and printed.
+    convertIfValid(contentText());
     postAdjustTextStyle();
 }
 
@@ -368,10 +369,9 @@ QString TavroEdit::sumOfNumString(const QString &a, const QString &b) const
     return serialnumber::sumOfNumString(a, b);
 }
 
-// Neither saves the painter: nothing is drawn after them that does not set its own pen, the scene protects its items
-// from each other, and on paper the saving would cost as much as the text.
 void TavroEdit::drawEditContent(QPainter *painter)
 {
+    const PainterSaver saver(painter);
     painter->setPen(QColor(fontColor()));
     painter->setFont(font());
     painter->drawText(boundingRect(), prefix() + m_displayText, textOption());
@@ -382,6 +382,7 @@ void TavroEdit::drawPlaceholder(QPainter *painter)
     QFont plain = font();
     plain.setWeight(QFont::Normal);
     plain.setStyle(QFont::StyleNormal);
+    const PainterSaver saver(painter);
     painter->setPen(QPen(Qt::gray, 1));
     painter->setFont(plain);
     painter->drawText(boundingRect(), m_placeholder, textOption());
@@ -414,7 +415,7 @@ void TavroEdit::syncContentData()
         return;
     storeContent(m_editor->toPlainText());
     Q_EMIT contentDataChanged();
-    // A slot may have corrected the text while the signal was out: what the editor holds by now is validated.
+    // As in setContentData(), a slot may have corrected the text.
     convertIfValid(contentText());
     adjustTextStyle();
 }

@@ -86,7 +86,7 @@ public:
     /// Sum of two strings of decimal digits of any length, as wide as the longer one.
     QString sumOfNumString(const QString &a, const QString &b) const;
 
-    // painting; pen and font of the painter stay as they were set
+    // painting
     void drawEditContent(QPainter *painter);
     void drawPlaceholder(QPainter *painter);
 

@@ -6,7 +6,9 @@
 QPen LineStroke::pen() const
 {
     QPen pen(QColor::fromRgba(color));
-    pen.setWidthF(widthPix);
+    // Qt keeps 1 px for a negative width, and warns at every paint.
+    if (widthPix >= 0)
+        pen.setWidthF(widthPix);
     pen.setStyle(style);
     return pen;
 }

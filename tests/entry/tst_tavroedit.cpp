@@ -81,7 +81,8 @@ private Q_SLOTS:
     void stagesOfAnAmount();
     void contentIsAnnouncedBeforeTheConversion();
     void contentOfASlotStays();
-    void contentPassedInIsValidated();
+    void contentCorrectedByASlotIsShown();
+    void contentSpoiledByASlotShowsNothing();
     void textCorrectedWhileTypingIsShown();
 };
 
@@ -400,7 +401,7 @@ void TestTavroEdit::contentOfASlotStays()
     QCOMPARE(editorOf(edit)->toPlainText(), QStringLiteral("good"));
 }
 
-void TestTavroEdit::contentPassedInIsValidated()
+void TestTavroEdit::contentCorrectedByASlotIsShown()
 {
     TavroEdit edit;
     edit.setFormatType(Format_Number);
@@ -411,7 +412,22 @@ void TestTavroEdit::contentPassedInIsValidated()
     const QSignalSpy invalid(&edit, &TavroEdit::invalidDataOccured);
     edit.setContentData(QStringLiteral("bad"));
     QCOMPARE(edit.contentData(), QVariant(QStringLiteral("15")));
-    QCOMPARE(invalid.count(), 1);
+    QCOMPARE(edit.displayText(), QStringLiteral("15"));
+    QCOMPARE(invalid.count(), 0);
+}
+
+void TestTavroEdit::contentSpoiledByASlotShowsNothing()
+{
+    TavroEdit edit;
+    edit.setFormatType(Format_RmbCapital);
+    connect(&edit, &TavroEdit::contentDataChanged, &edit, [&edit] {
+        if (edit.contentData().toString() == QStringLiteral("15"))
+            edit.setContentData(QStringLiteral("1x5"));
+    });
+    const QSignalSpy invalid(&edit, &TavroEdit::invalidDataOccured);
+    edit.setContentData(QStringLiteral("15"));
+    QCOMPARE(edit.displayText(), QString());
+    QVERIFY(invalid.count() > 0);
 }
 
 void TestTavroEdit::textCorrectedWhileTypingIsShown()

@@ -147,6 +147,11 @@ void TestTavroLine::stroke()
     QCOMPARE(pen.color(), QColor(0xFF, 0, 0x10, 0x80));
     QCOMPARE(pen.widthF(), 2.75);
     QCOMPARE(pen.style(), Qt::DashDotLine);
+
+    // kept as it is given, drawn 1 px wide, and no warning about it
+    line.setLineWidthPix(-3);
+    QCOMPARE(line.lineWidthPix(), -3.0);
+    QCOMPARE(probes::paintedBy(line).first().pen.widthF(), 1.0);
 }
 
 void TestTavroLine::stateOfThePainterIsKept()
