@@ -95,6 +95,7 @@ void TestTavroEditRenew::renewCountsSerialNumbers_data()
     row("9999999999999999999999999999999999999999", "10000000000000000000000000000000000000000");
     QTest::newRow("null") << QVariant() << QStringLiteral("1");
     QTest::newRow("int") << QVariant(99) << QStringLiteral("100");
+    QTest::newRow("double, six digits") << QVariant(12345.67) << QStringLiteral("1234508");
 }
 
 void TestTavroEditRenew::renewCountsSerialNumbers()
