@@ -120,9 +120,10 @@ void TavroPrototype::setupReszHandleAndDashRect()
 
 void TavroPrototype::setupHandles(const QVector<HandleDirect> &directions)
 {
+    constexpr int mostHandles = 9;
     qDeleteAll(m_handles);
     m_handles.clear();
-    m_handles.reserve(directions.size());
+    m_handles.reserve(mostHandles);
     for (const HandleDirect direction : directions)
         m_handles.append(new SizeHandleRect(this, direction));
     updateGeometry();
@@ -161,7 +162,10 @@ QVariant TavroPrototype::itemChange(GraphicsItemChange change, const QVariant &v
         showResizerHandle(selected && !m_isLocked);
         showDashRect(selected);
     } else if (change == ItemPositionChange) {
+        repaintIfNegative();
         Q_EMIT boundingRectChanged();
+    } else if (change == ItemPositionHasChanged) {
+        repaintIfNegative();
     }
     return QGraphicsObject::itemChange(change, value);
 }

@@ -8,6 +8,8 @@
 #include "core/stacking.h"
 #include "core/units.h"
 
+#include <QGraphicsScene>
+
 double TavroPrototype::objX() const
 {
     return m_boundingRect.x();
@@ -131,10 +133,20 @@ int TavroPrototype::pointSzToPixSz(double points) const
 void TavroPrototype::storeBoundingRect(const QRectF &rect)
 {
     prepareGeometryChange();
+    repaintIfNegative();
     m_boundingRect = rect;
     updateGeometry();
     if (m_dashRect->isVisible())
         m_dashRect->followOwner();
+    repaintIfNegative();
+}
+
+void TavroPrototype::repaintIfNegative()
+{
+    // An antialiased stroke reaches this far beyond its rectangle.
+    constexpr qreal reach = 2;
+    if (scene() && (m_boundingRect.width() < 0 || m_boundingRect.height() < 0))
+        scene()->update(sceneBoundingRect().normalized().adjusted(-reach, -reach, reach, reach));
 }
 
 void TavroPrototype::updateGeometry()

@@ -88,6 +88,7 @@ void TavroText::fitFontTo(const QString &text)
         setFont(QFont());
     }
     update(boundingRect());
+    repaintIfNegative();
 }
 
 Text_Filling_Rule TavroText::textFillingRule() const
