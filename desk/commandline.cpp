@@ -10,6 +10,7 @@
 #include "desk/record.h"
 
 #include <QCommandLineParser>
+#include <QCoreApplication>
 #include <QTextStream>
 
 namespace commandline {
@@ -109,6 +110,9 @@ ExitCode runRequest(const Request &request, QTextStream &out, QTextStream &err)
     const formreader::Result read = formreader::read(request.formFile);
     if (!read.form)
         return fail(err, read.error);
+    // New objects post what they do when the event loop turns. Each object that is deleted searches the whole post,
+    // which takes minutes in forms of many thousands.
+    QCoreApplication::processEvents();
     QStringList problems;
     if (!request.dataFile.isEmpty()) {
         const record::Result filled = record::fill(read.form.get(), request.dataFile);
