@@ -5,6 +5,7 @@
 #include "desk/form.h"
 #include "desk/jsonfile.h"
 
+#include <QHash>
 #include <QLocale>
 #include <QVector>
 #include <cmath>
@@ -27,13 +28,16 @@ QVariant contentOf(const QJsonValue &value)
     return {};
 }
 
-bool isIdOfUnknownKind(const Form &form, const QString &id)
+// Objects by identifier; null where the entry is of an unknown kind, whose values are kept back without a word here.
+QHash<QString, TavroPrototype *> objectsOf(const Form &form)
 {
+    QHash<QString, TavroPrototype *> objects;
     for (const Form::Entry &entry : form.entries) {
-        if (!entry.object && entry.unknown.value(QLatin1String("id")) == QJsonValue(id))
-            return true;
+        const QString id = entry.object ? entry.object->tavroID() : entry.unknown.value(QLatin1String("id")).toString();
+        if (!id.isEmpty() && !objects.value(id))
+            objects.insert(id, entry.object);
     }
-    return false;
+    return objects;
 }
 
 } // namespace
@@ -41,6 +45,7 @@ bool isIdOfUnknownKind(const Form &form, const QString &id)
 Result fillFromJson(Form *form, const QJsonObject &json, const QString &fileName)
 {
     Result result;
+    const QHash<QString, TavroPrototype *> objects = objectsOf(*form);
     QVector<QPair<TavroPrototype *, QVariant>> values;
     for (auto it = json.begin(); it != json.end(); ++it) {
         const QVariant content = contentOf(it.value());
@@ -49,12 +54,15 @@ Result fillFromJson(Form *form, const QJsonObject &json, const QString &fileName
                                        QStringLiteral("a text, or a number with at most 13 digits before the point"),
                                        it.value()),
                     {}};
-        if (TavroPrototype *object = form->objectWithId(it.key()))
+        if (TavroPrototype *object = objects.value(it.key()))
             values.append({object, content});
-        else if (!isIdOfUnknownKind(*form, it.key()))
+        else if (!objects.contains(it.key()))
             result.unknownIds.append(it.key());
     }
     for (const auto &[object, content] : qAsConst(values)) {
+        // In a batch most values are those of the record before: the date, the account, the purpose.
+        if (object->contentData() == content)
+            continue;
         object->setContentData(content);
         if (auto *text = qobject_cast<TavroText *>(object))
             text->adjustTextStyle();
