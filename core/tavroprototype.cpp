@@ -40,7 +40,10 @@ TavroPrototype::TavroPrototype(QGraphicsItem *parent)
     TavroPrototype::setupReszHandleAndDashRect();
 }
 
-TavroPrototype::~TavroPrototype() = default;
+TavroPrototype::~TavroPrototype()
+{
+    repaintIfNegative();
+}
 
 int TavroPrototype::type() const
 {
@@ -157,15 +160,14 @@ void TavroPrototype::paint(QPainter *painter, const QStyleOptionGraphicsItem *, 
 
 QVariant TavroPrototype::itemChange(GraphicsItemChange change, const QVariant &value)
 {
+    // Each change of selection, place, turn, height, visibility or scene comes by, before and after it.
+    repaintIfNegative();
     if (change == ItemSelectedChange) {
         const bool selected = value.toBool();
         showResizerHandle(selected && !m_isLocked);
         showDashRect(selected);
     } else if (change == ItemPositionChange) {
-        repaintIfNegative();
         Q_EMIT boundingRectChanged();
-    } else if (change == ItemPositionHasChanged) {
-        repaintIfNegative();
     }
     return QGraphicsObject::itemChange(change, value);
 }

@@ -7,6 +7,10 @@
 #include <QGraphicsView>
 #include <QPaintEvent>
 #include <QTest>
+#include <functional>
+
+using Change = std::function<void(TavroPrototype *)>;
+Q_DECLARE_METATYPE(Change)
 
 namespace {
 
@@ -79,6 +83,8 @@ private Q_SLOTS:
     void position();
     void content_data() { addBoxRows(); }
     void content();
+    void itemState_data();
+    void itemState();
     void cachedLinePaintsAgain();
 
 private:
@@ -147,6 +153,38 @@ void TestRepainting::content()
     show(&view, text, {QPointF(200, 150), size});
     text->setContentData(QStringLiteral("105000.50"));
     QTRY_VERIFY(view.hasRepainted({QPointF(200, 150), size}));
+}
+
+void TestRepainting::itemState_data()
+{
+    QTest::addColumn<Change>("change");
+
+    const auto row = [](const char *name, const Change &change) { QTest::newRow(name) << change; };
+    row("selected", [](TavroPrototype *object) { object->setSelected(true); });
+    row("hidden", [](TavroPrototype *object) { object->setVisible(false); });
+    row("disabled", [](TavroPrototype *object) { object->setEnabled(false); });
+    row("raised", [](TavroPrototype *object) { object->setZValue(5); });
+    row("turned", [](TavroPrototype *object) {
+        object->setRotateAngle(90);
+        object->updateObjRotation();
+    });
+    row("taken away", [](TavroPrototype *object) {
+        object->scene()->removeItem(object);
+        object->deleteLater();
+    });
+    row("deleted", [](TavroPrototype *object) { delete object; });
+}
+
+void TestRepainting::itemState()
+{
+    QFETCH(Change, change);
+    const QRectF rect(200, 150, -60, -40);
+    QGraphicsScene scene(0, 0, 400, 300);
+    RememberingView view(&scene);
+    auto *object = new TavroPrototype;
+    show(&view, object, rect);
+    change(object);
+    QTRY_VERIFY(view.hasRepainted(rect));
 }
 
 // A cached line whose stroke was changed shows it when its rectangle is set, be it the same.
