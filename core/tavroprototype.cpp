@@ -252,7 +252,10 @@ void TavroPrototype::showDashRect(bool show)
 
 void TavroPrototype::setDashRectState(SelectionDashRectState state)
 {
+    const bool changes = state != m_dashRect->state();
     m_dashRect->setState(state);
+    if (changes)
+        repaintIfNegative();
 }
 
 void TavroPrototype::setLeadingFlag(bool leading)

@@ -145,8 +145,10 @@ void TavroPrototype::repaintIfNegative()
 {
     // An antialiased stroke reaches this far beyond its rectangle.
     constexpr qreal reach = 2;
+    // The lock sign hangs from the origin, out of a rectangle that runs to the left or upwards.
+    const QRectF painted = m_boundingRect.normalized() | QRectF(m_boundingRect.topLeft(), m_lockedImage.size());
     if (scene() && (m_boundingRect.width() < 0 || m_boundingRect.height() < 0))
-        scene()->update(sceneBoundingRect().normalized().adjusted(-reach, -reach, reach, reach));
+        scene()->update(mapRectToScene(painted).normalized().adjusted(-reach, -reach, reach, reach));
 }
 
 void TavroPrototype::updateGeometry()

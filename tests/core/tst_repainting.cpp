@@ -161,6 +161,7 @@ void TestRepainting::itemState_data()
 
     const auto row = [](const char *name, const Change &change) { QTest::newRow(name) << change; };
     row("selected", [](TavroPrototype *object) { object->setSelected(true); });
+    row("framed", [](TavroPrototype *object) { object->showDashRect(true); });
     row("hidden", [](TavroPrototype *object) { object->setVisible(false); });
     row("disabled", [](TavroPrototype *object) { object->setEnabled(false); });
     row("raised", [](TavroPrototype *object) { object->setZValue(5); });
