@@ -85,6 +85,8 @@ private Q_SLOTS:
     void content();
     void itemState_data();
     void itemState();
+    void turned();
+    void lockSign();
     void cachedLinePaintsAgain();
 
 private:
@@ -186,6 +188,30 @@ void TestRepainting::itemState()
     show(&view, object, rect);
     change(object);
     QTRY_VERIFY(view.hasRepainted(rect));
+}
+
+// The place that a turned object takes, not only the one that it leaves.
+void TestRepainting::turned()
+{
+    QGraphicsScene scene(0, 0, 400, 300);
+    RememberingView view(&scene);
+    auto *object = new TavroPrototype;
+    show(&view, object, QRectF(200, 150, -60, -40));
+    object->setRotateAngle(90);
+    object->updateObjRotation();
+    QTRY_VERIFY(view.hasRepainted(QRectF(150, 100, 40, 60)));
+}
+
+// The sign hangs from the origin, here to the right of the rectangle and below it.
+void TestRepainting::lockSign()
+{
+    QGraphicsScene scene(0, 0, 400, 300);
+    RememberingView view(&scene);
+    auto *object = new TavroPrototype;
+    object->setIsLocked(true);
+    show(&view, object, QRectF(200, 150, -60, -40));
+    object->setSelected(true);
+    QTRY_VERIFY(view.hasRepainted(QRectF(200, 150, 16, 16)));
 }
 
 // A cached line whose stroke was changed shows it when its rectangle is set, be it the same.
