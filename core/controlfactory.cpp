@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "core/controlfactory.h"
 
+#include "cells/tavrofinancialedit.h"
+#include "cells/tavroseperateedit.h"
 #include "entry/tavroedit.h"
 #include "entry/tavrolabel.h"
 #include "graphic/tavroline.h"
@@ -15,6 +17,10 @@ TavroPrototype *ControlFactory::factory(ObjType kind)
         return new TavroRect;
     case Obj_Edit:
         return new TavroEdit;
+    case Obj_FinancialEdit:
+        return new TavroFinancialEdit;
+    case Obj_SeperateEdit:
+        return new TavroSeperateEdit;
     case Obj_Label:
         return new TavroLabel;
     default:

@@ -234,6 +234,8 @@ protected:
     void storeContent(const QVariant &content);
     /// Everything of the base setBoundingRect() but the repaint and the signal.
     void storeBoundingRect(const QRectF &rect);
+    /// update(), which also reaches an object of negative size.
+    void repaint();
     /// Asks the scene to repaint the object where its rectangle has a negative size: views do not for an item's update.
     void repaintIfNegative();
     /// Deletes the handles made so far, and makes one for each direction.

@@ -141,6 +141,12 @@ void TavroPrototype::storeBoundingRect(const QRectF &rect)
     repaintIfNegative();
 }
 
+void TavroPrototype::repaint()
+{
+    update();
+    repaintIfNegative();
+}
+
 void TavroPrototype::repaintIfNegative()
 {
     // An antialiased stroke reaches this far beyond its rectangle.

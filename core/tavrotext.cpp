@@ -52,6 +52,11 @@ void TavroText::setPrefix(const QString &prefix)
     setIsModified(true);
 }
 
+void TavroText::storePrefix(const QString &prefix)
+{
+    m_prefix = prefix;
+}
+
 void TavroText::setFont(const QFont &font)
 {
     m_font = font;
@@ -87,8 +92,7 @@ void TavroText::fitFontTo(const QString &text)
     default:
         setFont(QFont());
     }
-    update(boundingRect());
-    repaintIfNegative();
+    repaint();
 }
 
 Text_Filling_Rule TavroText::textFillingRule() const

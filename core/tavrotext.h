@@ -92,6 +92,8 @@ Q_SIGNALS:
 protected:
     /// What adjustTextStyle() does, for the text that the kind draws.
     void fitFontTo(const QString &text);
+    /// Prefix that follows from another setting: no signal, no fitting, not modified.
+    void storePrefix(const QString &prefix);
 
 private:
     /// Font of the settings alone, before any fitting.

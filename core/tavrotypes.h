@@ -69,6 +69,35 @@ enum Input_Format : int {
     Format_Customized = 10
 };
 
+/// What a separated-cell edit spreads over its cells. Others keep the cells, take no key and paint no content.
+enum SeperateMode : int {
+    Sep_Amount = 0,   ///< an amount, one cell for each unit of the unit range
+    Sep_Digits18 = 1, ///< 18 digits
+    Sep_Digits6 = 2,  ///< 6 digits
+    Sep_Chars6 = 3    ///< 6 characters of any kind
+};
+
+/// Mark in front of an amount in a separated-cell edit. Others leave the mark as it is.
+enum Prefix_Mode : int { Prefix_None = 0, Prefix_Cross = 1, Prefix_Zero = 2 };
+
+/// Sign in front of an amount in a financial edit. Others leave the sign as it is.
+enum Currency : int {
+    Currency_None = 0,
+    Currency_Yuan = 1,
+    Currency_Dollar = 2,
+    Currency_Pound = 3,
+    Currency_Cent = 4,
+    Currency_Usd = 5 ///< the letters USD
+};
+
+/// Lowest and highest unit of a row of amount cells, counted from 分: 0 分, 1 角, 2 元, 3 十 and so on up to 11 十
+/// (亿).
+struct _UnitRange
+{
+    int start = 0;
+    int end = 0;
+};
+
 /// Names the database column that an object is bound to. The library stores it and opens no database.
 struct _Database_Table_Col
 {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "core/units.h"
 
+#include <cmath>
 #include <limits>
 
 namespace units {
@@ -26,6 +27,12 @@ int pixelSize(double points, double pixelWidth, double physicalWidth)
 double pointSize(int pixels, double pixelWidth, double physicalWidth)
 {
     return physicalWidth * pixels / pixelWidth * PointsPerInch / MillimetresPerInch;
+}
+
+double pixelLength(double length, double pixelExtent, double physicalExtent)
+{
+    const double pixels = pixelExtent * length / physicalExtent;
+    return std::isfinite(pixels) ? pixels : 0;
 }
 
 } // namespace units

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-/// Font sizes between points and pixels. The scale is always the ratio of an object's pixel width to one of its
-/// physical widths in millimetres: no screen resolution is assumed anywhere. 25.4 mm and 72 points to the inch.
+/// Font sizes and lengths between paper and pixels. The scale is always the ratio of an object's pixel width to one of
+/// its physical widths in millimetres: no screen resolution is assumed anywhere. 25.4 mm and 72 points to the inch.
 namespace units {
 
 /// Whole pixels for a size in points, cut off towards zero. At least 1: sizes below one pixel, negative sizes, sizes
@@ -11,5 +11,9 @@ int pixelSize(double points, double pixelWidth, double physicalWidth);
 
 /// Points for a size in pixels, neither rounded nor bounded: infinite or not a number where the pixel width is 0.
 double pointSize(int pixels, double pixelWidth, double physicalWidth);
+
+/// Pixels of a length on paper, along the extent of an object. 0 where that is no finite number, as on an object
+/// without a physical extent: positions are computed from it.
+double pixelLength(double length, double pixelExtent, double physicalExtent);
 
 } // namespace units

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "cells/tavrofinancialedit.h"
+#include "cells/tavroseperateedit.h"
 #include "core/controlfactory.h"
 #include "entry/tavroedit.h"
 #include "entry/tavrolabel.h"
@@ -38,6 +40,8 @@ void TestControlFactory::kinds_data()
     row(2, TavroRect::staticMetaObject, true);
     // An edit object chooses its format on the way, by the setter that marks.
     row(3, TavroEdit::staticMetaObject, true);
+    row(4, TavroFinancialEdit::staticMetaObject, true);
+    row(5, TavroSeperateEdit::staticMetaObject, true);
     row(7, TavroLabel::staticMetaObject, true);
 }
 
@@ -69,8 +73,6 @@ void TestControlFactory::noKinds_data()
     QTest::newRow("unset") << -1;
     QTest::newRow("smallest number") << std::numeric_limits<int>::min();
     // Named, but without a class yet.
-    QTest::newRow("financial edit") << 4;
-    QTest::newRow("separated edit") << 5;
     QTest::newRow("check box") << 6;
     QTest::newRow("combo box") << 8;
     QTest::newRow("date and time") << 9;

@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+class QKeyEvent;
+
+/// What a key writes into a cell: its text, or nothing for keys that give orders although their event carries a text
+/// (Enter, Tab, Delete, Escape, a digit with Control).
+QString typedText(const QKeyEvent &event);
+
+/// Whether the key is one of the digits, on the keypad or not.
+bool isDigitKey(int key);
