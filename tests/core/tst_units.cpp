@@ -4,7 +4,7 @@
 #include <QTest>
 #include <limits>
 
-/// Font sizes between points and pixels.
+/// Font sizes and lengths between paper and pixels.
 class TestUnits : public QObject
 {
     Q_OBJECT
@@ -17,6 +17,8 @@ private Q_SLOTS:
     void pointSize_data();
     void pointSize();
     void pointSizeWithoutPixelWidth();
+    void pixelLength_data();
+    void pixelLength();
 };
 
 void TestUnits::pixelSize_data()
@@ -101,6 +103,41 @@ void TestUnits::pointSizeWithoutPixelWidth()
 {
     QVERIFY(qIsInf(units::pointSize(14, 0, 100)));
     QVERIFY(qIsNaN(units::pointSize(14, 0, 0)));
+}
+
+void TestUnits::pixelLength_data()
+{
+    QTest::addColumn<double>("length");
+    QTest::addColumn<double>("pixelExtent");
+    QTest::addColumn<double>("physicalExtent");
+    QTest::addColumn<double>("pixels");
+
+    const double infinity = std::numeric_limits<double>::infinity();
+    const double nan = std::numeric_limits<double>::quiet_NaN();
+    QTest::newRow("4 px a millimetre") << 5.0 << 400.0 << 100.0 << 20.0;
+    QTest::newRow("not rounded") << 2.5 << 50.0 << 100.0 << 1.25;
+    QTest::newRow("whole extent") << 100.0 << 400.0 << 100.0 << 400.0;
+    QTest::newRow("longer than the extent") << 200.0 << 400.0 << 100.0 << 800.0;
+    QTest::newRow("nothing") << 0.0 << 400.0 << 100.0 << 0.0;
+    QTest::newRow("negative length") << -5.0 << 400.0 << 100.0 << -20.0;
+    QTest::newRow("negative pixel extent") << 5.0 << -400.0 << 100.0 << -20.0;
+    QTest::newRow("negative physical extent") << 5.0 << 400.0 << -100.0 << -20.0;
+    QTest::newRow("both extents negative") << 5.0 << -400.0 << -100.0 << 20.0;
+    QTest::newRow("no pixel extent") << 5.0 << 0.0 << 100.0 << 0.0;
+    QTest::newRow("no physical extent") << 5.0 << 400.0 << 0.0 << 0.0;
+    QTest::newRow("no extent at all") << 5.0 << 0.0 << 0.0 << 0.0;
+    QTest::newRow("beyond the largest number") << 1e300 << 1e300 << 100.0 << 0.0;
+    QTest::newRow("infinite length") << infinity << 400.0 << 100.0 << 0.0;
+    QTest::newRow("infinite physical extent") << 5.0 << 400.0 << infinity << 0.0;
+    QTest::newRow("not a number") << nan << 400.0 << 100.0 << 0.0;
+}
+
+void TestUnits::pixelLength()
+{
+    QFETCH(double, length);
+    QFETCH(double, pixelExtent);
+    QFETCH(double, physicalExtent);
+    QTEST(units::pixelLength(length, pixelExtent, physicalExtent), "pixels");
 }
 
 QTEST_APPLESS_MAIN(TestUnits)
