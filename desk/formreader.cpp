@@ -163,6 +163,9 @@ private:
             if (!variant.isValid())
                 return fail(path + QLatin1Char('.') + setting.key, setting.expectation(), value);
             setting.set(*object, variant, m_form->scale);
+            // Some values are refused by the object alone, and it says nothing.
+            if (setting.get(*object) != variant)
+                return fail(path + QLatin1Char('.') + setting.key, setting.expectation(), value);
         }
         m_form->entries.back().unknown = unknown;
         object->setOriginalID(object->tavroID());

@@ -17,20 +17,36 @@ namespace formwriter {
 
 namespace {
 
-// One new object of each kind that the form uses, to tell which settings differ from it.
+// New objects of each kind that the form uses, to tell which settings differ from them.
 class Defaults
 {
 public:
-    const TavroPrototype &of(ObjType kind)
+    // A setting that stands for itself is compared with an object that has no settings at all.
+    const TavroPrototype &of(ObjType kind) { return *newObject(kind, &m_bare); }
+    // The others are compared with one that took over what brings their values along.
+    const TavroPrototype &like(const TavroPrototype &object)
     {
-        std::unique_ptr<TavroPrototype> &object = m_objects[kind];
-        if (!object)
-            object.reset(ControlFactory::factory(kind));
-        return *object;
+        TavroPrototype *fresh = newObject(object.objType(), &m_led);
+        for (const Setting &setting : catalogue::settingsOf(object.objType())) {
+            if (setting.bringsOthers)
+                setting.set(*fresh, setting.get(object), 1);
+        }
+        return *fresh;
     }
 
 private:
-    std::map<ObjType, std::unique_ptr<TavroPrototype>> m_objects;
+    using Objects = std::map<ObjType, std::unique_ptr<TavroPrototype>>;
+
+    static TavroPrototype *newObject(ObjType kind, Objects *objects)
+    {
+        std::unique_ptr<TavroPrototype> &object = (*objects)[kind];
+        if (!object)
+            object.reset(ControlFactory::factory(kind));
+        return object.get();
+    }
+
+    Objects m_bare;
+    Objects m_led;
 };
 
 QJsonObject objectJson(const TavroPrototype &object, const QJsonObject &unknown, Defaults *defaults)
@@ -39,10 +55,11 @@ QJsonObject objectJson(const TavroPrototype &object, const QJsonObject &unknown,
     json.insert(QLatin1String(formwords::Kind), catalogue::nameOf(object.objType()));
     const QRectF rect = object.phyRect();
     json.insert(QLatin1String(formwords::Rect), QJsonArray{rect.x(), rect.y(), rect.width(), rect.height()});
-    const TavroPrototype &fresh = defaults->of(object.objType());
+    const TavroPrototype &bare = defaults->of(object.objType());
+    const TavroPrototype &led = defaults->like(object);
     for (const Setting &setting : catalogue::settingsOf(object.objType())) {
         const QJsonValue value = setting.toJson(setting.get(object));
-        if (value != setting.toJson(setting.get(fresh)))
+        if (value != setting.toJson(setting.get(setting.bringsOthers ? bare : led)))
             json.insert(setting.key, value);
     }
     return json;

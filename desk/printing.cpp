@@ -114,6 +114,11 @@ void prepare(Form *form)
     form->fitTexts();
 }
 
+bool isPrinted(const TavroPrototype &object)
+{
+    return object.isPrint() && object.isObjVisible();
+}
+
 void paintPage(QPainter *painter, Form *form, const QRectF &target)
 {
     form->scene().render(painter, target, form->pageRect(), Qt::IgnoreAspectRatio);

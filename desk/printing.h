@@ -6,6 +6,7 @@
 class Form;
 class QPainter;
 class QRectF;
+class TavroPrototype;
 
 /// Puts forms on paper at true size.
 namespace printing {
@@ -16,6 +17,9 @@ inline constexpr int UsualDpi = 300;
 
 /// Switches the form to printing, as after filling it in: what is invisible while filling in is not printed.
 void prepare(Form *form);
+
+/// Whether the object of a prepared form comes to paper.
+bool isPrinted(const TavroPrototype &object);
 
 /// Paints the page of a prepared form into a rectangle of the painter, in device units.
 void paintPage(QPainter *painter, Form *form, const QRectF &target);

@@ -56,6 +56,39 @@ QJsonValue choiceName(int value, const QVector<Setting::Choice> &choices)
     return value;
 }
 
+QString rangeInWords(const Setting &setting)
+{
+    switch (setting.type) {
+    case Setting::Type::Flag:
+        return QStringLiteral("true or false");
+    case Setting::Type::Integer:
+        return QStringLiteral("a whole number from %1 to %2")
+            .arg(setting.minimum, 0, 'f', 0)
+            .arg(setting.maximum, 0, 'f', 0);
+    case Setting::Type::Number:
+        return QStringLiteral("a number from %1 to %2").arg(setting.minimum).arg(setting.maximum);
+    case Setting::Type::Text:
+        return QStringLiteral("a text");
+    case Setting::Type::Color:
+        return QStringLiteral("a colour such as \"#1ba39c\"");
+    case Setting::Type::AlphaColor:
+        return QStringLiteral("a colour with its opacity such as \"#ff1ba39c\"");
+    case Setting::Type::Choice: {
+        QStringList names;
+        for (const Setting::Choice &choice : setting.choices)
+            names.append(choice.name);
+        const QString any = QStringLiteral("one of %1, or a whole number").arg(names.join(QStringLiteral(", ")));
+        if (setting.minimum == Setting::LeastInt && setting.maximum == Setting::MostInt)
+            return any;
+        return QStringLiteral("%1 from %2 to %3")
+            .arg(any)
+            .arg(setting.minimum, 0, 'f', 0)
+            .arg(setting.maximum, 0, 'f', 0);
+    }
+    }
+    return {};
+}
+
 } // namespace
 
 QVariant Setting::fromJson(const QJsonValue &json) const
@@ -103,28 +136,5 @@ QJsonValue Setting::toJson(const QVariant &value) const
 
 QString Setting::expectation() const
 {
-    switch (type) {
-    case Type::Flag:
-        return QStringLiteral("true or false");
-    case Type::Integer:
-        return QStringLiteral("a whole number from %1 to %2").arg(minimum, 0, 'f', 0).arg(maximum, 0, 'f', 0);
-    case Type::Number:
-        return QStringLiteral("a number from %1 to %2").arg(minimum).arg(maximum);
-    case Type::Text:
-        return QStringLiteral("a text");
-    case Type::Color:
-        return QStringLiteral("a colour such as \"#1ba39c\"");
-    case Type::AlphaColor:
-        return QStringLiteral("a colour with its opacity such as \"#ff1ba39c\"");
-    case Type::Choice: {
-        QStringList names;
-        for (const Choice &choice : choices)
-            names.append(choice.name);
-        const QString any = QStringLiteral("one of %1, or a whole number").arg(names.join(QStringLiteral(", ")));
-        if (minimum == LeastInt && maximum == MostInt)
-            return any;
-        return QStringLiteral("%1 from %2 to %3").arg(any).arg(minimum, 0, 'f', 0).arg(maximum, 0, 'f', 0);
-    }
-    }
-    return {};
+    return condition.isEmpty() ? rangeInWords(*this) : QStringLiteral("%1, %2").arg(rangeInWords(*this), condition);
 }

@@ -45,6 +45,9 @@ struct Setting
     /// Of an Integer, a Number, and the numbers that a Choice takes.
     double minimum = 0;
     double maximum = 0;
+    QString condition; ///< what the object asks of a value beyond that; it keeps its own where the condition fails
+    bool bringsOthers =
+        false; ///< whether the value decides what values later settings have as long as they are not set
 
     /// Value to give to set(), or an invalid one where the JSON value does not fit.
     QVariant fromJson(const QJsonValue &json) const;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "desk/formreader.h"
 
+#include "cells/tavrofinancialedit.h"
+#include "cells/tavroseperateedit.h"
 #include "core/tavrotext.h"
 #include "entry/tavroedit.h"
 #include "graphic/tavroline.h"
@@ -50,6 +52,8 @@ private Q_SLOTS:
     void settingsReachTheObject();
     void settingsLeftOut();
     void presetIsConvertedBySettings();
+    void presetStandsInItsCells();
+    void rowWithoutContentIsLikeAnEmptyOne();
     void fontSizeInPixels();
     void lineWidthInPixels();
     void objectsAreUnmodified();
@@ -124,7 +128,7 @@ void FormReaderTest::geometry_data()
 void FormReaderTest::geometry()
 {
     QFETCH(QRectF, millimetres);
-    for (const char *kind : {"line", "rect", "edit", "label"}) {
+    for (const char *kind : {"line", "rect", "edit", "label", "separatedEdit", "financialEdit"}) {
         const std::unique_ptr<Form> form = deskforms::formWith({deskforms::object(kind, millimetres)});
         QVERIFY(form);
         const TavroPrototype &object = *form->entries.front().object;
@@ -185,6 +189,52 @@ void FormReaderTest::presetIsConvertedBySettings()
     QVERIFY(qobject_cast<TavroEdit *>(amount->entries.front().object.data())
                 ->displayText()
                 .startsWith(QStringLiteral("壹仟零捌拾")));
+}
+
+// Mode and range empty the cells, a limit the content; all of them come before the preset, wherever they stand.
+void FormReaderTest::presetStandsInItsCells()
+{
+    const std::unique_ptr<Form> form = deskforms::formWith(
+        {deskforms::object("separatedEdit", Place, settings(R"({"preset":"20","highestUnit":4,"lowestUnit":2})")),
+         deskforms::object("separatedEdit", Place, settings(R"({"preset":"a1","mode":"chars6","separatorWidth":1})")),
+         deskforms::object(
+             "financialEdit", Place,
+             settings(R"({"preset":"7.5","limitUnit":3,"showLimit":true,"highestUnit":4,"unitRowHeight":3})"))});
+    QVERIFY(form);
+    const auto &amount = static_cast<TavroSeperateEdit &>(*form->entries.at(0).object);
+    QCOMPARE(amount.numOfEditable(), 3);
+    QCOMPARE(QStringList({amount.charAt(0), amount.charAt(1), amount.charAt(2)}),
+             QStringList({QString(), QStringLiteral("2"), QStringLiteral("0")}));
+    const auto &characters = static_cast<TavroSeperateEdit &>(*form->entries.at(1).object);
+    QCOMPARE(characters.charAt(1), QStringLiteral("1"));
+    QCOMPARE(characters.rectAt(0).size(), QSizeF((40 - 5.0) / 6 * 8, 8 * 8));
+    const auto &grid = static_cast<TavroFinancialEdit &>(*form->entries.at(2).object);
+    QCOMPARE(grid.contentData().toString(), QStringLiteral("7.5"));
+    QCOMPARE(grid.digitAt(2), QStringLiteral("7"));
+    QCOMPARE(grid.cursorIndx(), 1);
+    QCOMPARE(grid.rectAt(0), QRectF(10 * 8, 23 * 8, 8 * 8, 5 * 8));
+}
+
+// Whether a record names a field without a value or leaves it out makes no difference on paper.
+void FormReaderTest::rowWithoutContentIsLikeAnEmptyOne()
+{
+    const std::unique_ptr<Form> form =
+        deskforms::formWith({deskforms::object("separatedEdit", Place, settings(R"({"prefixAll":true})")),
+                             deskforms::object("financialEdit", Place, settings(R"({"showZero":true})"))});
+    QVERIFY(form);
+    const auto cells = [&form] {
+        QStringList texts;
+        for (int i = 0; i < 12; ++i) {
+            texts.append(static_cast<TavroSeperateEdit &>(*form->entries.at(0).object).charAt(i));
+            texts.append(static_cast<TavroFinancialEdit &>(*form->entries.at(1).object).digitAt(i));
+        }
+        return texts;
+    };
+    const QStringList before = cells();
+    QCOMPARE(before.count(QStringLiteral("0")), 6);
+    for (const Form::Entry &entry : form->entries)
+        entry.object->setContentData(QString());
+    QCOMPARE(cells(), before);
 }
 
 void FormReaderTest::fontSizeInPixels()
@@ -325,9 +375,11 @@ void FormReaderTest::refusesObject_data()
         QTest::newRow(row) << QByteArray(json) << QString::fromUtf8(error);
     };
     add("no kind", R"({"rect":[0,0,1,1]})",
-        "objects[1].kind: expected a kind such as line, rect, edit, label, found nothing");
+        "objects[1].kind: expected a kind such as line, rect, edit, label, separatedEdit, financialEdit, "
+        "found nothing");
     add("kind as a number", R"({"kind":3,"rect":[0,0,1,1]})",
-        "objects[1].kind: expected a kind such as line, rect, edit, label, found 3");
+        "objects[1].kind: expected a kind such as line, rect, edit, label, separatedEdit, financialEdit, "
+        "found 3");
     add("no rectangle", R"({"kind":"line"})",
         "objects[1].rect: expected an array of four numbers in millimetres (x, y, width, height), found nothing");
     add("five numbers", R"({"kind":"line","rect":[1,2,3,4,5]})",
@@ -351,6 +403,27 @@ void FormReaderTest::refusesObject_data()
     add("pen style that is none", R"({"kind":"line","rect":[1,2,3,4],"lineStyle":6})",
         "objects[1].lineStyle: expected one of none, solid, dash, dot, dashDot, dashDotDot, or a whole number from 0 "
         "to 5, found 6");
+    add("row upside down", R"({"kind":"separatedEdit","rect":[1,2,3,4],"highestUnit":4,"lowestUnit":5})",
+        "objects[1].lowestUnit: expected a whole number from 0 to 11, not above highestUnit, found 5");
+    add("row above its own highest unit", R"({"kind":"separatedEdit","rect":[1,2,3,4],"lowestUnit":7})",
+        "objects[1].lowestUnit: expected a whole number from 0 to 11, not above highestUnit, found 7");
+    add("row that does not reach 元", R"({"kind":"separatedEdit","rect":[1,2,3,4],"highestUnit":1})",
+        "objects[1].highestUnit: expected a whole number from 2 to 11, not below lowestUnit, found 1");
+    add("row upside down without amounts",
+        R"({"kind":"separatedEdit","rect":[1,2,3,4],"mode":"digits6","lowestUnit":7})",
+        "objects[1].lowestUnit: expected a whole number from 0 to 11, not above highestUnit, found 7");
+    add("grid upside down", R"({"kind":"financialEdit","rect":[1,2,3,4],"lowestUnit":9,"highestUnit":8})",
+        "objects[1].lowestUnit: expected a whole number from 0 to 11, not above highestUnit, found 9");
+    add("grid that does not reach 角", R"({"kind":"financialEdit","rect":[1,2,3,4],"highestUnit":0})",
+        "objects[1].highestUnit: expected a whole number from 1 to 11, not below lowestUnit, found 0");
+    add("unit without a word", R"({"kind":"financialEdit","rect":[1,2,3,4],"highestUnit":12})",
+        "objects[1].highestUnit: expected a whole number from 1 to 11, not below lowestUnit, found 12");
+    add("unit by its word", R"({"kind":"financialEdit","rect":[1,2,3,4],"limitUnit":"万"})",
+        "objects[1].limitUnit: expected a whole number from 0 to 11, found \"万\"");
+    add("negative gap", R"({"kind":"separatedEdit","rect":[1,2,3,4],"separatorWidth":-0.1})",
+        "objects[1].separatorWidth: expected a number from 0 to 100, found -0.1");
+    add("unknown currency", R"({"kind":"financialEdit","rect":[1,2,3,4],"currency":"euro"})",
+        "objects[1].currency: expected one of none, yuan, dollar, pound, cent, usd, or a whole number, found \"euro\"");
     add("text of two lines", R"({"kind":"line","rect":[1,2,3,4],"print":"a\nb"})",
         "objects[1].print: expected true or false, found \"a\\nb\"");
     add("same identifier", R"({"kind":"edit","rect":[1,2,3,4],"id":"first"})",

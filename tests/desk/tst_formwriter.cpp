@@ -51,6 +51,9 @@ private Q_SLOTS:
     void unknownIsKept();
     void orderIsKept();
     void contentIsNotWritten();
+    void gapIsThatOfItsMode_data();
+    void gapIsThatOfItsMode();
+    void rowsOfAllModesSideBySide();
     void normalForm_data();
     void normalForm();
     void writesAFile();
@@ -170,6 +173,45 @@ void FormWriterTest::contentIsNotWritten()
     QVERIFY(form);
     form->entries.front().object->setContentData(QStringLiteral("filled in"));
     QCOMPARE(written(*form).value(QStringLiteral("objects")).toArray().first(), QJsonValue(object));
+}
+
+void FormWriterTest::gapIsThatOfItsMode_data()
+{
+    QTest::addColumn<QByteArray>("given");
+    QTest::addColumn<QByteArray>("expected");
+
+    const auto add = [](const char *name, const char *given, const char *expected) {
+        QTest::newRow(name) << QByteArray(given) << QByteArray(expected);
+    };
+    add("amount", R"({"mode":"amount","separatorWidth":5})", "{}");
+    add("amount without gaps", R"({"separatorWidth":0})", R"({"separatorWidth":0})");
+    add("18 digits", R"({"mode":"digits18","separatorWidth":0})", R"({"mode":"digits18"})");
+    add("18 digits with the gap of an amount", R"({"mode":"digits18","separatorWidth":5})",
+        R"({"mode":"digits18","separatorWidth":5})");
+    add("6 digits", R"({"mode":"digits6"})", R"({"mode":"digits6"})");
+    add("6 characters", R"({"mode":"chars6","separatorWidth":5})", R"({"mode":"chars6"})");
+    add("6 characters without gaps", R"({"mode":"chars6","separatorWidth":0})",
+        R"({"mode":"chars6","separatorWidth":0})");
+    add("mode without a name", R"({"mode":77,"separatorWidth":0})", R"({"mode":77})");
+}
+
+void FormWriterTest::gapIsThatOfItsMode()
+{
+    QFETCH(QByteArray, given);
+    QFETCH(QByteArray, expected);
+    QCOMPARE(writtenObject(deskforms::object("separatedEdit", Place, settings(given.constData()))),
+             deskforms::object("separatedEdit", Place, settings(expected.constData())));
+}
+
+void FormWriterTest::rowsOfAllModesSideBySide()
+{
+    QJsonArray objects;
+    for (const char *json : {R"({"mode":"digits18"})", R"({"highestUnit":8})", R"({"mode":"chars6"})", "{}",
+                             R"({"mode":"digits6","lowestUnit":2})", R"({"lowestUnit":1})", R"({"mode":77})"})
+        objects.append(deskforms::object("separatedEdit", Place, settings(json)));
+    const std::unique_ptr<Form> form = deskforms::formWith(objects);
+    QVERIFY(form);
+    QCOMPARE(written(*form).value(QStringLiteral("objects")), QJsonValue(objects));
 }
 
 void FormWriterTest::normalForm_data()

@@ -36,6 +36,7 @@ private Q_SLOTS:
     void expectation_data();
     void expectation();
     void choiceOfAnyNumber();
+    void conditionOfTheObject();
 };
 
 void SettingTest::fromJson_data()
@@ -199,6 +200,13 @@ void SettingTest::choiceOfAnyNumber()
     QCOMPARE(setting.fromJson(2147483647.0), QVariant(Setting::MostInt));
     QCOMPARE(setting.fromJson(2147483648.0), QVariant());
     QCOMPARE(setting.fromJson(-2147483649.0), QVariant());
+}
+
+void SettingTest::conditionOfTheObject()
+{
+    Setting setting = settingOf(Type::Integer);
+    setting.condition = QStringLiteral("not above that");
+    QCOMPARE(setting.expectation(), QStringLiteral("a whole number from -2 to 5, not above that"));
 }
 
 QTEST_APPLESS_MAIN(SettingTest)

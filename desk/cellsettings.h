@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "desk/setting.h"
+
+/// Settings of rows of cells: separated-cell edits and financial edits.
+namespace cellsettings {
+
+QVector<Setting> ofSeparatedEdits();
+QVector<Setting> ofFinancialEdits();
+
+} // namespace cellsettings
