@@ -14,6 +14,12 @@ inline QString cellsOf(const TavroSeperateEdit &edit)
     return texts.join(QLatin1Char(' '));
 }
 
+/// Cells and cursor.
+inline QString rowOf(const TavroSeperateEdit &edit)
+{
+    return QStringLiteral("%1, %2").arg(cellsOf(edit)).arg(edit.cursorIndx());
+}
+
 /// Writes the cells that the text names, and leaves those beyond it.
 inline void fill(TavroSeperateEdit &edit, const QString &texts)
 {
