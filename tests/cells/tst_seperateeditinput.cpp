@@ -179,7 +179,7 @@ void TestSeperateEditInput::keysWithoutFocus()
     const QSignalSpy changed(edit, &Edit::contentDataChanged);
     QKeyEvent event(QEvent::KeyPress, key, Qt::KeyboardModifiers(modifiers), text);
     form.scene().sendEvent(edit, &event);
-    // Every item goes on to the next one with Tab.
+    // On a form without focus, Tab gives it to an item.
     QCOMPARE(event.isAccepted(), key == Qt::Key_Tab || key == Qt::Key_Backtab);
     QVERIFY(!form.press(key, text, Qt::KeyboardModifiers(modifiers)));
     QCOMPARE(rowOf(*edit), rowAfter(Nothing, text));
