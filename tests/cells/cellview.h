@@ -8,6 +8,7 @@
 #include <QGraphicsView>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QTest>
 
 /// A form with rows of cells in a shown, active window, clicked and typed into like a user does. Scene and window
@@ -42,7 +43,17 @@ public:
 
     void click(const QPointF &place, Qt::MouseButton button = Qt::LeftButton)
     {
-        QTest::mouseClick(m_view.viewport(), button, Qt::NoModifier, m_view.mapFromScene(place));
+        sendMouse(QEvent::MouseButtonPress, place, button, button);
+        sendMouse(QEvent::MouseButtonRelease, place, button, Qt::NoButton);
+    }
+
+    /// Presses and releases the left button. Answers who took the press, so that it was not left to those below.
+    QGraphicsItem *takerOfPress(const QPointF &place)
+    {
+        sendMouse(QEvent::MouseButtonPress, place, Qt::LeftButton, Qt::LeftButton);
+        QGraphicsItem *taker = m_scene.mouseGrabberItem();
+        sendMouse(QEvent::MouseButtonRelease, place, Qt::LeftButton, Qt::NoButton);
+        return taker;
     }
 
     /// Presses and releases one key, whatever text it carries. Answers whether the form accepted it, so that it was not
@@ -73,6 +84,13 @@ public:
     }
 
 private:
+    void sendMouse(QEvent::Type type, const QPointF &place, Qt::MouseButton button, Qt::MouseButtons held)
+    {
+        const QPoint pixel = m_view.mapFromScene(place);
+        QMouseEvent event(type, pixel, m_view.viewport()->mapToGlobal(pixel), button, held, Qt::NoModifier);
+        QCoreApplication::sendEvent(m_view.viewport(), &event);
+    }
+
     class Scene : public QGraphicsScene
     {
     public:
