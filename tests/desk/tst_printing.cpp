@@ -96,11 +96,15 @@ void measureStrokes(const measuring::Picture &page, Errors *errors)
     errors->add("frame, bottom", page.strokeY({58, 27, 8, 3}), Frame.bottom());
 }
 
-void measureTexts(const QMap<QString, QRectF> &words, Errors *errors)
+void measureTexts(const QVector<measuring::Word> &words, Errors *errors)
 {
     const auto word = [&words](const char *text) {
+        for (const measuring::Word &each : words) {
+            if (each.text == QLatin1String(text))
+                return each.box;
+        }
         const double none = std::nan("");
-        return words.value(QLatin1String(text), QRectF(none, none, none, none));
+        return QRectF(none, none, none, none);
     };
     errors->add("left text, left end", word("Left").left(), LeftText.left());
     errors->add("left text, height", word("Left").center().y(), LeftText.center().y());
@@ -158,6 +162,7 @@ private Q_SLOTS:
     void sizeOfThePaper();
     void hiddenObjects();
     void nothingOfTheScreen();
+    void rowsPrintTheirCellsOnly();
     void rotationKeepsTheCentre_data();
     void rotationKeepsTheCentre();
     void orderOfPainting();
@@ -289,6 +294,28 @@ void PrintingTest::nothingOfTheScreen()
         QCOMPARE(int(command.kind), int(PaintCommand::Text));
         QCOMPARE(command.text, QString());
     }
+}
+
+// Frames, words, shades and cursors belong to the screen too: the paper has them already.
+void PrintingTest::rowsPrintTheirCellsOnly()
+{
+    const auto row = [](const char *kind, double y, const char *json) {
+        return deskforms::text(kind, {10, y, 80, 6}, settings(json));
+    };
+    const std::unique_ptr<Form> form = deskforms::formWith(
+        {row("separatedEdit", 2, R"({"preset":"305.7"})"),
+         row("separatedEdit", 10, R"({"preset":"20","prefixMark":"zero","prefixAll":true,"highestUnit":5})"),
+         row("separatedEdit", 18, R"({"preset":"0.00"})"),
+         row("separatedEdit", 26, R"({"mode":"chars6","preset":"a B1"})"),
+         row("financialEdit", 34, R"({"preset":"12.5","currency":"usd","showLimit":true,"limitUnit":4})"),
+         row("financialEdit", 42, R"({"preset":"7","print":false})"),
+         row("separatedEdit", 50, R"({"preset":"7","print":false})")});
+    QVERIFY(form);
+    RecordingDevice device;
+    paintOn(&device, form.get());
+    QCOMPARE(textsOn(device).join(QLatin1Char(' ')),
+             QStringLiteral("叁 零 伍 柒 零 ⓧ 贰 零 零 零 零 零 a   B 1 1 2 5 0 USD"));
+    QCOMPARE(device.commands().size(), device.commands(PaintCommand::Text).size());
 }
 
 void PrintingTest::rotationKeepsTheCentre_data()
