@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "bench/ratioreport.h"
+#include "cells/amountcells.h"
 #include "entry/chineseamount.h"
 #include "entry/englishamount.h"
 #include "entry/numericformat.h"
@@ -63,6 +64,27 @@ void numericPattern(benchmark::State &state)
                 [pattern = QStringLiteral("#,##0.00")](double value) { return numericformat::format(pattern, value); });
 }
 
+// Content to cells and back.
+void throughCells(benchmark::State &state, const _UnitRange &range, int firstKept, const amountcells::Style &style)
+{
+    writeInTurn(state, contents(), [=](const QString &content) {
+        QStringList cells = amountcells::digitsOf(content, range, amountcells::cellCount(range));
+        amountcells::removeLeadingZeros(&cells, firstKept);
+        return amountcells::amountOf(cells, range.start, style);
+    });
+}
+
+void separatedCells(benchmark::State &state)
+{
+    constexpr _UnitRange range = {0, 6};
+    throughCells(state, range, amountcells::indexOfUnit(range, amountcells::Yuan), amountcells::SeparatedRow);
+}
+
+void gridCells(benchmark::State &state)
+{
+    throughCells(state, {0, 11}, -1, amountcells::Grid);
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -71,8 +93,12 @@ int main(int argc, char **argv)
     benchmark::RegisterBenchmark("chineseCapitals", chineseCapitals);
     benchmark::RegisterBenchmark("englishWords", englishWords);
     benchmark::RegisterBenchmark("numericPattern", numericPattern);
+    benchmark::RegisterBenchmark("separatedCells", separatedCells);
+    benchmark::RegisterBenchmark("gridCells", gridCells);
     return runWithRatios(argc, argv,
                          {{"chineseCapitals", "plainNumber", 4},
                           {"englishWords", "plainNumber", 6},
-                          {"numericPattern", "plainNumber", 6}});
+                          {"numericPattern", "plainNumber", 6},
+                          {"separatedCells", "plainNumber", 4},
+                          {"gridCells", "plainNumber", 4}});
 }
