@@ -74,3 +74,33 @@ void BareText::setFont(const QFont &font)
     m_font = font;
     update();
 }
+
+BareGrid::BareGrid(const QRectF &rect, const Content &content)
+    : m_rect(rect)
+    , m_content(content)
+{
+}
+
+QRectF BareGrid::boundingRect() const
+{
+    return m_rect;
+}
+
+void BareGrid::paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWidget *)
+{
+    const auto draw = [painter](const QVector<Text> &texts) {
+        for (const Text &text : texts)
+            painter->drawText(text.rect, Qt::AlignCenter | Qt::TextDontClip, text.text);
+    };
+    painter->fillRect(m_content.ground, m_content.groundColor);
+    painter->setPen(m_content.linePen);
+    painter->drawLines(m_content.lines);
+    painter->setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing | QPainter::SmoothPixmapTransform);
+    painter->setFont(m_content.font);
+    draw(m_content.words);
+    painter->setPen(m_content.digitColor);
+    draw(m_content.digits);
+    painter->setPen(m_content.borderPen);
+    painter->setBrush(Qt::NoBrush);
+    painter->drawRect(m_content.border);
+}

@@ -5,6 +5,7 @@
 #include <QGraphicsItem>
 #include <QPen>
 #include <QTextOption>
+#include <QVector>
 
 /// What a program without the library would put on its scene: items that draw the same, and can nothing else.
 
@@ -48,4 +49,36 @@ private:
     QFont m_font;
     QTextOption m_option;
     QColor m_color;
+};
+
+/// Lines over a ground, with words and digits in the middle of their cells and a border around.
+class BareGrid : public QGraphicsItem
+{
+public:
+    struct Text
+    {
+        QRectF rect;
+        QString text;
+    };
+    struct Content
+    {
+        QRectF ground;
+        QColor groundColor;
+        QVector<QLineF> lines;
+        QPen linePen; ///< of the words too
+        QVector<Text> words;
+        QVector<Text> digits;
+        QColor digitColor;
+        QFont font;
+        QRectF border;
+        QPen borderPen;
+    };
+
+    BareGrid(const QRectF &rect, const Content &content);
+    QRectF boundingRect() const override;
+    void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget) override;
+
+private:
+    QRectF m_rect;
+    Content m_content;
 };
