@@ -163,9 +163,9 @@ double Picture::darkness(int x, int y) const
     return m_image.valid(x, y) ? 1 - qGray(m_image.pixel(x, y)) / 255.0 : 0;
 }
 
-QVector<Word> wordsOfPdf(const QString &fileName)
+QMultiMap<QString, QRectF> wordsOfPdf(const QString &fileName)
 {
-    QVector<Word> words;
+    QMultiMap<QString, QRectF> words;
     QXmlStreamReader xml(
         outputOf(QStringLiteral("pdftotext"), {QStringLiteral("-bbox"), fileName, QStringLiteral("-")}));
     while (!xml.atEnd()) {
@@ -174,7 +174,7 @@ QVector<Word> wordsOfPdf(const QString &fileName)
         const QPointF topLeft(attribute(xml, "xMin").toDouble(), attribute(xml, "yMin").toDouble());
         const QPointF bottomRight(attribute(xml, "xMax").toDouble(), attribute(xml, "yMax").toDouble());
         constexpr double scale = MillimetresPerInch / PointsPerInch;
-        words.append({xml.readElementText(), QRectF(topLeft * scale, bottomRight * scale)});
+        words.insert(xml.readElementText(), QRectF(topLeft * scale, bottomRight * scale));
     }
     return words;
 }

@@ -42,13 +42,8 @@ private:
     double m_scale; ///< pixels per millimetre
 };
 
-/// A word of a PDF file and its box: as wide as it advances, as high as its line.
-struct Word
-{
-    QString text;
-    QRectF box;
-};
-QVector<Word> wordsOfPdf(const QString &fileName);
+/// Boxes of the words of a PDF file, by word: as wide as the word advances, as high as its line.
+QMultiMap<QString, QRectF> wordsOfPdf(const QString &fileName);
 
 /// Strokes of an SVG file and the size that it gives itself.
 struct Drawing

@@ -91,14 +91,14 @@ QString errorOfLines(const measuring::Picture &page, const QRectF &box)
 }
 
 // The text alone in its box, and in the middle of it.
-QString errorOfText(const QVector<measuring::Word> &words, const QRectF &box, const QString &text)
+QString errorOfText(const QMultiMap<QString, QRectF> &words, const QRectF &box, const QString &text)
 {
     QStringList found;
     QRectF place;
-    for (const measuring::Word &word : words) {
-        if (box.intersects(word.box)) {
-            found.append(word.text);
-            place = word.box;
+    for (auto word = words.begin(); word != words.end(); ++word) {
+        if (box.intersects(word.value())) {
+            found.append(word.key());
+            place = word.value();
         }
     }
     if (found.join(QString()) != text.trimmed())
@@ -149,7 +149,7 @@ void CellPrintingTest::everyTextInTheMiddleOfItsBox()
     QCOMPARE(record::fill(read.form.get(), path + QStringLiteral(".json")).error, QString());
     const QString file = m_folder.filePath(QStringLiteral("page.pdf"));
     QCOMPARE(printing::write(read.form.get(), file, dpi), QString());
-    const QVector<measuring::Word> words = measuring::wordsOfPdf(file);
+    const QMultiMap<QString, QRectF> words = measuring::wordsOfPdf(file);
     const measuring::Picture page = measuring::Picture::ofPdf(file, PictureDpi);
     QVERIFY2(!page.isNull(), "pdftoppm shows no page");
     for (const BoxRow &row : rows) {

@@ -96,15 +96,11 @@ void measureStrokes(const measuring::Picture &page, Errors *errors)
     errors->add("frame, bottom", page.strokeY({58, 27, 8, 3}), Frame.bottom());
 }
 
-void measureTexts(const QVector<measuring::Word> &words, Errors *errors)
+void measureTexts(const QMultiMap<QString, QRectF> &words, Errors *errors)
 {
     const auto word = [&words](const char *text) {
-        for (const measuring::Word &each : words) {
-            if (each.text == QLatin1String(text))
-                return each.box;
-        }
         const double none = std::nan("");
-        return QRectF(none, none, none, none);
+        return words.value(QLatin1String(text), QRectF(none, none, none, none));
     };
     errors->add("left text, left end", word("Left").left(), LeftText.left());
     errors->add("left text, height", word("Left").center().y(), LeftText.center().y());
