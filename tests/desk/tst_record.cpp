@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "desk/record.h"
 
+#include "cells/tavrofinancialedit.h"
+#include "cells/tavroseperateedit.h"
 #include "entry/tavroedit.h"
 #include "tests/desk/deskforms.h"
 #include "tests/support/stricttest.h"
@@ -44,6 +46,8 @@ private Q_SLOTS:
     void cents();
     void refuses_data();
     void refuses();
+    void cells_data();
+    void cells();
     void otherObjectsStay();
     void unknownIdentifiers();
     void errorLeavesTheForm();
@@ -148,6 +152,58 @@ void RecordTest::refuses()
         QCOMPARE(result.error, QStringLiteral("r.json: %1: %2, found %3").arg(QLatin1String(id), expected, found));
     }
     QCOMPARE(contentOf(*form, "payee"), QStringLiteral("nobody"));
+}
+
+void RecordTest::cells_data()
+{
+    QTest::addColumn<QByteArray>("kind");
+    QTest::addColumn<QByteArray>("settings");
+    QTest::addColumn<QByteArray>("value");
+    QTest::addColumn<QString>("cells"); ///< from the left, empty ones as spaces
+
+    const auto add = [](const char *name, const char *kind, const char *settings, const char *value,
+                        const char *cells) {
+        QTest::newRow(name) << QByteArray(kind) << QByteArray(settings) << QByteArray(value)
+                            << QString::fromUtf8(cells);
+    };
+    const char *row = "separatedEdit";
+    const char *grid = "financialEdit";
+    add("amount", row, "{}", "\"1234.5\"", " 123450");
+    add("number", row, "{}", "1234.5", " 123450");
+    add("number below a cent of a float", grid, "{}", "1234567.89", "   123456789");
+    add("cents that a double has not exactly", grid, "{}", "0.29", "          29");
+    add("null shows what an empty amount shows", row, "{}", "null", "    000");
+    add("null in a grid", grid, "{}", "null", "            ");
+    add("null where zeros are shown", grid, R"({"showZero":true})", "null", "         000");
+    add("null instead of the preset", grid, R"({"preset":"5"})", "null", "            ");
+    add("units", grid, R"({"highestUnit":4,"lowestUnit":1})", "\"50.2\"", " 502");
+    add("below the limit", grid, R"({"showLimit":true,"limitUnit":4,"highestUnit":6})", "\"50\"", "   5000");
+    add("account number", row, R"({"mode":"digits18"})", "\"012345678901234567\"", "012345678901234567");
+    add("post code with its zeros", row, R"({"mode":"digits6"})", "\"001000\"", "001000");
+    add("number as a post code", row, R"({"mode":"digits6"})", "100032", "100032");
+    add("characters", row, R"({"mode":"chars6"})", "\"欧阳A1\"", "欧阳A1  ");
+}
+
+void RecordTest::cells()
+{
+    QFETCH(QByteArray, kind);
+    QFETCH(QByteArray, settings);
+    QFETCH(QByteArray, value);
+    QFETCH(QString, cells);
+    QJsonObject object = deskforms::object(kind.constData(), Place, json(settings));
+    object.insert(QStringLiteral("id"), QStringLiteral("row"));
+    const std::unique_ptr<Form> form = deskforms::formWith({object});
+    QVERIFY(form);
+    QCOMPARE(record::fillFromJson(form.get(), json("{\"row\":" + value + "}"), QString()).error, QString());
+    const TavroPrototype *filled = form->entries.front().object;
+    const auto *row = qobject_cast<const TavroSeperateEdit *>(filled);
+    const auto *grid = qobject_cast<const TavroFinancialEdit *>(filled);
+    QString found;
+    for (int i = 0; i < (row ? row->numOfEditable() : grid->numOfEditable()); ++i) {
+        const QString text = row ? row->charAt(i) : grid->digitAt(i);
+        found += text.isEmpty() ? QStringLiteral(" ") : text;
+    }
+    QCOMPARE(found, cells);
 }
 
 void RecordTest::otherObjectsStay()
