@@ -131,7 +131,7 @@ QStringList inCapitals(const QStringList &digits)
 // The mark of an amount of nothing is printed only where it fills all cells.
 bool printsMark(const TavroSeperateEdit &edit, int firstFilled)
 {
-    return edit.prefixMode() != Prefix_None && (firstFilled > 0 || (firstFilled < 0 && edit.isPrefixAll()));
+    return firstFilled > 0 || (firstFilled < 0 && edit.isPrefixAll());
 }
 
 // Zeros above the limit, such as the 元 of 0.50, are no amount.
