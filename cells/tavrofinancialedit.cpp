@@ -7,6 +7,7 @@
 
 #include <QGraphicsSceneMouseEvent>
 #include <QKeyEvent>
+#include <algorithm>
 
 TavroFinancialEdit::TavroFinancialEdit(QGraphicsItem *parent)
     : TavroText(parent)

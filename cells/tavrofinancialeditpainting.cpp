@@ -6,6 +6,8 @@
 #include "cells/cellpainting.h"
 #include "core/paintersaver.h"
 
+#include <algorithm>
+
 void TavroFinancialEdit::designPaint(QPainter *painter)
 {
     drawControl(painter);
@@ -43,6 +45,8 @@ void TavroFinancialEdit::drawFrameRect(QPainter *painter)
     const PainterSaver saver(painter);
     cellpainting::setUpFrame(painter);
     const int count = numOfEditable();
+    if (count == 0)
+        return;
     QVector<QLineF> lines;
     lines.reserve(count + 1);
     lines.append({rectAt(0).topLeft(), rectAt(count - 1).topRight()});
