@@ -79,13 +79,14 @@ bool isZero(const QString &amount)
     return plainNumber(amount) == QLatin1String(".");
 }
 
-// The number that a reader sees who goes through the cells, from the highest unit of the range down.
+// The number that a reader sees who goes through the cells, from the highest unit of the range down. Units without a
+// cell read as zeros.
 QString numberInCells(const QStringList &cells, const _UnitRange &range)
 {
     QString whole;
     QString decimals;
     for (int unit = range.end; unit >= 0; --unit) {
-        const QString digit = unit < range.start ? QString() : cells.value(range.end - unit);
+        const QString digit = cells.value(range.end - unit);
         (unit < Yuan ? decimals : whole) += digit.isEmpty() ? QStringLiteral("0") : digit;
     }
     return plainNumber(whole, decimals);

@@ -35,9 +35,10 @@ void follow(TavroFinancialEdit &edit)
 {
     edit.syncEditableGeometry();
     edit.updateIndxOfLimitUnit();
-    const bool isLimited =
-        edit.isShowLimit() && edit.limitUnit() >= edit.unitStart() && edit.limitUnit() < edit.unitEnd();
-    edit.moveCursorTo(isLimited ? edit.unitEnd() - edit.limitUnit() : 0);
+    edit.resetCurosr();
+    // A limit outside of the cells limits nothing, and the cursor does not go there.
+    if (edit.isShowLimit())
+        edit.moveCursorTo(edit.unitEnd() - edit.limitUnit());
     edit.syncDigitList();
 }
 
