@@ -3,6 +3,16 @@
 
 #include <QPainter>
 
+namespace {
+
+void drawCells(QPainter *painter, const QVector<CellText> &texts)
+{
+    for (const CellText &text : texts)
+        painter->drawText(text.rect, Qt::AlignCenter | Qt::TextDontClip, text.text);
+}
+
+} // namespace
+
 BareLine::BareLine(const QRectF &rect, const QPen &pen)
     : m_rect(rect)
     , m_pen(pen)
@@ -75,6 +85,30 @@ void BareText::setFont(const QFont &font)
     update();
 }
 
+BareCells::BareCells(const QRectF &rect, const QFont &font, const QColor &color)
+    : m_rect(rect)
+    , m_font(font)
+    , m_color(color)
+{
+}
+
+QRectF BareCells::boundingRect() const
+{
+    return m_rect;
+}
+
+void BareCells::paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWidget *)
+{
+    painter->setPen(m_color);
+    painter->setFont(m_font);
+    drawCells(painter, m_texts);
+}
+
+void BareCells::setTexts(const QVector<CellText> &texts)
+{
+    m_texts = texts;
+}
+
 BareGrid::BareGrid(const QRectF &rect, const Content &content)
     : m_rect(rect)
     , m_content(content)
@@ -88,18 +122,14 @@ QRectF BareGrid::boundingRect() const
 
 void BareGrid::paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWidget *)
 {
-    const auto draw = [painter](const QVector<Text> &texts) {
-        for (const Text &text : texts)
-            painter->drawText(text.rect, Qt::AlignCenter | Qt::TextDontClip, text.text);
-    };
     painter->fillRect(m_content.ground, m_content.groundColor);
     painter->setPen(m_content.linePen);
     painter->drawLines(m_content.lines);
     painter->setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing | QPainter::SmoothPixmapTransform);
     painter->setFont(m_content.font);
-    draw(m_content.words);
+    drawCells(painter, m_content.words);
     painter->setPen(m_content.digitColor);
-    draw(m_content.digits);
+    drawCells(painter, m_content.digits);
     painter->setPen(m_content.borderPen);
     painter->setBrush(Qt::NoBrush);
     painter->drawRect(m_content.border);

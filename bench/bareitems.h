@@ -51,23 +51,41 @@ private:
     QColor m_color;
 };
 
+/// A text and the cell in whose middle it stands.
+struct CellText
+{
+    QRectF rect;
+    QString text;
+};
+
+/// Digits in the middle of their cells.
+class BareCells : public QGraphicsItem
+{
+public:
+    BareCells(const QRectF &rect, const QFont &font, const QColor &color);
+    QRectF boundingRect() const override;
+    void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget) override;
+    void setTexts(const QVector<CellText> &texts);
+
+private:
+    QRectF m_rect;
+    QFont m_font;
+    QColor m_color;
+    QVector<CellText> m_texts;
+};
+
 /// Lines over a ground, with words and digits in the middle of their cells and a border around.
 class BareGrid : public QGraphicsItem
 {
 public:
-    struct Text
-    {
-        QRectF rect;
-        QString text;
-    };
     struct Content
     {
         QRectF ground;
         QColor groundColor;
         QVector<QLineF> lines;
         QPen linePen; ///< of the words too
-        QVector<Text> words;
-        QVector<Text> digits;
+        QVector<CellText> words;
+        QVector<CellText> digits;
         QColor digitColor;
         QFont font;
         QRectF border;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "bench/bareitems.h"
 #include "bench/ratioreport.h"
+#include "cells/tavrofinancialedit.h"
 #include "desk/fonts.h"
 #include "desk/form.h"
 #include "desk/formreader.h"
@@ -117,9 +118,11 @@ public:
         for (int page = 0; page < PageCount; ++page) {
             record::fillFromJson(m_form.get(), records().at(page), QString());
             m_form->fitTexts();
-            QVector<Drawn> drawn;
+            Page drawn;
             for (const TavroEdit *edit : qAsConst(m_edits))
-                drawn.append({edit->prefix() + edit->displayText(), edit->font()});
+                drawn.texts.append({edit->prefix() + edit->displayText(), edit->font()});
+            for (const TavroFinancialEdit *grid : qAsConst(m_grids))
+                drawn.cells.append(digitsOf(*grid));
             m_pages.append(drawn);
         }
     }
@@ -127,11 +130,13 @@ public:
     void print(int pages)
     {
         printPages(m_form->pageSize, pages, [this](QPainter *painter, int page) {
-            const QVector<Drawn> &drawn = m_pages.at(page % PageCount);
+            const Page &drawn = m_pages.at(page % PageCount);
             for (int i = 0; i < m_texts.size(); ++i) {
-                m_texts.at(i)->setText(drawn.at(i).text);
-                m_texts.at(i)->setFont(drawn.at(i).font);
+                m_texts.at(i)->setText(drawn.texts.at(i).text);
+                m_texts.at(i)->setFont(drawn.texts.at(i).font);
             }
+            for (int i = 0; i < m_cells.size(); ++i)
+                m_cells.at(i)->setTexts(drawn.cells.at(i));
             m_scene.render(painter, target(m_form->pageSize), m_form->pageRect());
         });
     }
@@ -142,6 +147,25 @@ private:
         QString text;
         QFont font;
     };
+    struct Page
+    {
+        QVector<Drawn> texts;
+        QVector<QVector<CellText>> cells;
+    };
+
+    // What is printed of a grid: its digits, and the sign in front of the first.
+    static QVector<CellText> digitsOf(const TavroFinancialEdit &grid)
+    {
+        QVector<CellText> texts;
+        for (int i = 0; i < grid.numOfEditable(); ++i) {
+            if (grid.digitAt(i).isEmpty())
+                continue;
+            if (texts.isEmpty() && i > 0)
+                texts.append({grid.rectAt(i - 1), grid.prefix()});
+            texts.append({grid.rectAt(i), grid.digitAt(i)});
+        }
+        return texts;
+    }
 
     void add(TavroPrototype *object)
     {
@@ -156,6 +180,11 @@ private:
             m_edits.append(edit);
             m_texts.append(text);
             item = text;
+        } else if (const auto *grid = qobject_cast<TavroFinancialEdit *>(object)) {
+            auto *cells = new BareCells(grid->boundingRect(), grid->font(), QColor(grid->fontColor()));
+            m_grids.append(grid);
+            m_cells.append(cells);
+            item = cells;
         }
         if (item)
             m_scene.addItem(item);
@@ -172,7 +201,9 @@ private:
     QGraphicsScene m_scene;
     QVector<TavroEdit *> m_edits;
     QVector<BareText *> m_texts;
-    QVector<QVector<Drawn>> m_pages;
+    QVector<const TavroFinancialEdit *> m_grids;
+    QVector<BareCells *> m_cells;
+    QVector<Page> m_pages;
 };
 
 void chequesOfForm(benchmark::State &state)
