@@ -195,7 +195,8 @@ void TestFinancialEditCells::cellsToContent()
     QCOMPARE(cellsOf(edit), cells);
 }
 
-// The cells are what the user typed: writing them back does not spread the content anew. Listeners read the new one.
+// The cells are what the user typed: writing them back does neither spread the content nor fit the
+// font anew. Listeners read the new one.
 void TestFinancialEditCells::contentIsStoredDirectly()
 {
     class Edit : public TavroFinancialEdit
@@ -206,11 +207,14 @@ void TestFinancialEditCells::contentIsStoredDirectly()
     };
     Edit edit;
     setCells(edit, QStringLiteral("0000_1______"));
+    const QFont font(QStringLiteral("DejaVu Serif"), 7);
+    edit.setFont(font);
     QVariant seen;
     connect(&edit, &TavroPrototype::contentDataChanged, [&] { seen = edit.contentData(); });
     edit.syncContentData();
     QCOMPARE(seen, QVariant(QStringLiteral("000.01")));
     QCOMPARE(edit.settings, 0);
+    QCOMPARE(edit.font(), font);
     QCOMPARE(cellsOf(edit), QStringLiteral("0000_1______"));
 }
 
