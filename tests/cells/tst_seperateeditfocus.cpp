@@ -264,7 +264,12 @@ void TestSeperateEditFocus::repaint_data()
     row("unit words", [](CellView &, Edit *edit) { edit->setIsDrawMonetaryUnit(false); });
     row("marks", [](CellView &, Edit *edit) { edit->setIsPrefixAll(true); });
     row("mark", [](CellView &, Edit *edit) { edit->setPrefixMode(Prefix_Zero); });
+    row("content spread again", [](CellView &, Edit *edit) { edit->syncDigitsList(); });
+    row("cells emptied", [](CellView &, Edit *edit) { edit->resetEditable(); });
     row("cursor", [](CellView &, Edit *edit) { edit->moveCursorTo(1); });
+    row("cursor to the right", [](CellView &, Edit *edit) { edit->increaseCursor(); });
+    row("cursor to the left", [](CellView &, Edit *edit) { edit->decreaseCursor(); });
+    row("cursor to the front", [](CellView &, Edit *edit) { edit->resetCursor(); });
 }
 
 void TestSeperateEditFocus::repaint()
