@@ -121,7 +121,8 @@ QString amountOf(const QStringList &cells, int lowestUnit, const Style &style)
     QString amount = cells.join(QString());
     if (amount.isEmpty() && style.isEmptyWithoutDigits)
         return amount;
-    amount += QString(boundedCount(lowestUnit), QLatin1Char('0'));
+    // Bounded like a row: no amount has a billion zeros, but a wrong number from a file may ask for them.
+    amount += QString(qBound(0, lowestUnit, MostCells), QLatin1Char('0'));
     if (amount.size() < Places && style.padsSingleDigit)
         amount.prepend(QLatin1Char('0'));
     amount.insert(std::max(0, amount.size() - Places), QLatin1Char('.'));

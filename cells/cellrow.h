@@ -33,7 +33,6 @@ public:
     int cellAt(const QPointF &point) const;
 
     int cursor() const { return m_cursor; }
-    bool isCursorOnLast() const { return m_cursor >= count() - 1; }
     void resetCursor() { m_cursor = 0; }
     /// Ignored outside the row.
     void moveCursorTo(int index);

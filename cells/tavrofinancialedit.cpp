@@ -11,7 +11,6 @@
 
 TavroFinancialEdit::TavroFinancialEdit(QGraphicsItem *parent)
     : TavroText(parent)
-    , m_cursorColor(102, 204, 153, 127)
 {
     setObjType(Obj_FinancialEdit);
     setCurrency(Currency_None);
@@ -238,7 +237,6 @@ QString TavroFinancialEdit::digitsToString() const
 void TavroFinancialEdit::syncDigitList()
 {
     stringToDigits(contentData().toString());
-    repaint();
 }
 
 void TavroFinancialEdit::syncContentData()
@@ -250,12 +248,14 @@ void TavroFinancialEdit::syncContentData()
 void TavroFinancialEdit::fillZeroToTrail()
 {
     m_row.fillTrailingZeros();
+    repaint();
 }
 
 void TavroFinancialEdit::removePrefixZero()
 {
     // Unlike a separated row, a grid starts at the first digit that counts: 0.05 is a single 5.
     m_row.removeLeadingZeros(m_isShowZero ? m_indxOfYuan : -1);
+    repaint();
 }
 
 int TavroFinancialEdit::cursorIndx() const
@@ -298,7 +298,7 @@ void TavroFinancialEdit::triggerDrawCursor()
 
 void TavroFinancialEdit::updateDigitByKey(int key, const QString &text)
 {
-    if (!isDigitKey(key))
+    if (!typedtext::isDigitKey(key))
         return;
     setDigitAt(cursorIndx(), text);
     fillZeroToTrail();
@@ -356,14 +356,14 @@ void TavroFinancialEdit::keyPressEvent(QKeyEvent *event)
         return;
     // Keys that mean something here are not left to the view, which would scroll.
     event->accept();
-    const QString text = typedText(*event);
+    const QString text = typedtext::textOf(*event);
     if (event->key() == Qt::Key_Left)
         decreaseCursor();
     else if (event->key() == Qt::Key_Right)
         increaseCursor();
     else if (event->key() == Qt::Key_Backspace)
         moveBack();
-    else if (isDigitKey(event->key()) && !text.isEmpty())
+    else if (typedtext::isDigitKey(event->key()) && !text.isEmpty())
         updateDigitByKey(event->key(), text);
     else
         event->ignore();

@@ -5,8 +5,6 @@
 #include "cells/cursorblink.h"
 #include "core/tavrotext.h"
 
-#include <QColor>
-
 /// Amount in the grid of a voucher: a row of unit words over a row of cells with one Arabic digit each, and a currency
 /// sign in front of the first digit. Where a limit is shown, the cells of the units above it are gray and a click or
 /// the Left key does not reach them. Grid and words are on the paper already: only digits and sign are printed. The
@@ -64,7 +62,8 @@ public:
     /// Does not mark modified.
     void updateIndxOfLimitUnit();
     bool isShowZero() const;
-    /// Whether the zeros of 元, 角 and 分 stay visible in an amount below 1. The cells follow with the next content.
+    /// Whether the zeros of 元, 角 and 分 stay visible in an amount below 1. The cells follow with the next content,
+    /// digit or Backspace.
     void setIsShowZero(bool show);
     /// Finds the cell of 元 again. Does not mark modified.
     void updateIndxOfYuan();
@@ -77,6 +76,7 @@ public:
     void setRectAt(int index, const QRectF &rect);
     /// First cell that contains the point in item coordinates, -1 without one.
     int hitEditable(const QPointF &point) const;
+    /// Empty cells without a place: nothing is drawn in them or hit until syncEditableGeometry().
     void resetEditable();
     void syncEditableGeometry();
     /// Spreads an amount over the cells.
@@ -127,7 +127,6 @@ protected:
 private:
     void moveBack();
 
-    QColor m_cursorColor;
     CellRow m_row;
     Currency m_currencySign = Currency_None;
     double m_unitRowPhyHeight = 5.0;

@@ -8,6 +8,13 @@
 
 #include <algorithm>
 
+namespace {
+
+// Lighter than in a separated row, since it lies over the ground.
+constexpr QColor CursorColor(102, 204, 153, 127);
+
+} // namespace
+
 void TavroFinancialEdit::designPaint(QPainter *painter)
 {
     drawControl(painter);
@@ -74,7 +81,7 @@ void TavroFinancialEdit::drawCursor(QPainter *painter)
 {
     const PainterSaver saver(painter);
     if (m_blink.isOn() && !isReadOnly())
-        painter->fillRect(rectAt(cursorIndx()), m_cursorColor);
+        painter->fillRect(rectAt(cursorIndx()), CursorColor);
 }
 
 void TavroFinancialEdit::drawInactiveRect(QPainter *painter)

@@ -12,7 +12,6 @@
 
 TavroSeperateEdit::TavroSeperateEdit(QGraphicsItem *parent)
     : TavroText(parent)
-    , m_cursorColor(102, 204, 153, 200)
 {
     setObjType(Obj_SeperateEdit);
     setSeperateMode(Sep_Amount);
@@ -75,6 +74,7 @@ void TavroSeperateEdit::setSeperateMode(const SeperateMode &mode)
         setNumOfEditable(6);
     setPhyWidthOfSeperator(mode == Sep_Amount || mode == Sep_Chars6 ? wordGap : 0);
     setInputMethodAcceptable(mode == Sep_Chars6);
+    repaint();
 }
 
 int TavroSeperateEdit::numOfEditable() const
@@ -240,6 +240,7 @@ void TavroSeperateEdit::strToList(const QString &text)
 {
     if (m_seperateMode != Sep_Amount) {
         m_row.setTexts(amountcells::charactersOf(text, numOfEditable()));
+        repaint();
         return;
     }
     m_row.setTexts(amountcells::digitsOf(text, m_unitRange, numOfEditable()));
@@ -255,7 +256,6 @@ QString TavroSeperateEdit::strListToStr(const QStringList &cells) const
 void TavroSeperateEdit::syncDigitsList()
 {
     strToList(contentData().toString());
-    repaint();
 }
 
 void TavroSeperateEdit::syncContentData()
@@ -267,12 +267,14 @@ void TavroSeperateEdit::syncContentData()
 void TavroSeperateEdit::fillZeroToTrail()
 {
     m_row.fillTrailingZeros();
+    repaint();
 }
 
 void TavroSeperateEdit::removePrefixZero()
 {
     // 0.05 keeps its 元, 角 and 分: an amount is read from 元 on.
     m_row.removeLeadingZeros(m_indxOfYuan);
+    repaint();
 }
 
 int TavroSeperateEdit::cursorIndx() const
@@ -314,7 +316,7 @@ void TavroSeperateEdit::triggerDrawCursor()
 bool TavroSeperateEdit::accepts(int key) const
 {
     return m_seperateMode == Sep_Chars6 ||
-           (m_seperateMode >= Sep_Amount && m_seperateMode <= Sep_Digits6 && isDigitKey(key));
+           (m_seperateMode >= Sep_Amount && m_seperateMode <= Sep_Digits6 && typedtext::isDigitKey(key));
 }
 
 void TavroSeperateEdit::updateContentByKey(const int &key, const QString &text)
@@ -378,7 +380,7 @@ void TavroSeperateEdit::keyPressEvent(QKeyEvent *event)
         return;
     // Keys that mean something here are not left to the view, which would scroll.
     event->accept();
-    const QString text = typedText(*event);
+    const QString text = typedtext::textOf(*event);
     if (event->key() == Qt::Key_Left)
         decreaseCursor();
     else if (event->key() == Qt::Key_Right)

@@ -5,8 +5,6 @@
 #include "cells/cursorblink.h"
 #include "core/tavrotext.h"
 
-#include <QColor>
-
 /// Value with one character a cell, as vouchers have one printed box a digit. An amount stands in the cells of a unit
 /// range, each followed by the word of its unit in the gap; without focus its digits are Chinese capitals, with a mark
 /// in front of the first. Other modes are plain rows of 18 or 6 digits or 6 characters. The content is text: an amount
@@ -35,7 +33,8 @@ public:
 
     // configuration; setters mark modified
     SeperateMode seperateMode() const;
-    /// Also the number of cells and the width of the gaps that belong to the mode, and input methods for characters.
+    /// Also the number of cells, the width of the gaps that belong to the mode, and input methods for characters. The
+    /// cells take the new gaps with the next setBoundingRect() or syncRectGeometry().
     void setSeperateMode(const SeperateMode &mode);
     int numOfEditable() const;
     /// Empty cells, the cursor on the first. None below 0, at most 1000.
@@ -76,6 +75,7 @@ public:
     QRectF rectAt(int index) const;
     /// First cell that contains the point in item coordinates, -1 without one.
     int hitEditable(const QPointF &point) const;
+    /// Empty cells without a place: nothing is drawn in them or hit until syncRectGeometry().
     void resetEditable();
     void syncRectGeometry();
     /// Spreads a value over the cells.
@@ -129,7 +129,6 @@ private:
 
     SeperateMode m_seperateMode = Sep_Amount;
     double m_phyWidthOfSeperator = 4.0;
-    QColor m_cursorColor;
     CellRow m_row;
     CursorBlink m_blink;
     bool m_isDrawMonetaryUnit = true;

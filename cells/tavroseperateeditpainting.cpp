@@ -7,6 +7,15 @@
 #include "core/paintersaver.h"
 #include "entry/numberwords.h"
 
+#include <algorithm>
+
+namespace {
+
+// Denser than in a grid, since the ground of the cells is painted over it.
+constexpr QColor CursorColor(102, 204, 153, 200);
+
+} // namespace
+
 void TavroSeperateEdit::designPaint(QPainter *painter)
 {
     drawFrameRect(painter);
@@ -103,5 +112,5 @@ void TavroSeperateEdit::drawCursor(QPainter *painter)
 {
     const PainterSaver saver(painter);
     if (m_blink.isOn() && !isReadOnly())
-        painter->fillRect(rectAt(cursorIndx()), m_cursorColor);
+        painter->fillRect(rectAt(cursorIndx()), CursorColor);
 }

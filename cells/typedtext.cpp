@@ -3,7 +3,9 @@
 
 #include <QKeyEvent>
 
-QString typedText(const QKeyEvent &event)
+namespace typedtext {
+
+QString textOf(const QKeyEvent &event)
 {
     const Qt::KeyboardModifiers held = event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
     // Control and Alt together are how some keyboards write their third level.
@@ -18,3 +20,5 @@ bool isDigitKey(int key)
 {
     return key >= Qt::Key_0 && key <= Qt::Key_9;
 }
+
+} // namespace typedtext

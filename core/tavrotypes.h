@@ -90,8 +90,8 @@ enum Currency : int {
     Currency_Usd = 5 ///< the letters USD
 };
 
-/// Lowest and highest unit of a row of amount cells, counted from 分: 0 分, 1 角, 2 元, 3 十 and so on up to 11 十
-/// (亿).
+/// Lowest and highest unit of a row of amount cells, counted from 分:
+/// 0 分, 1 角, 2 元, 3 十, 4 百, 5 千, 6 万, 7 十, 8 百, 9 千, 10 亿, 11 十.
 struct _UnitRange
 {
     int start = 0;

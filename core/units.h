@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-/// Font sizes and lengths between paper and pixels. The scale is always the ratio of an object's pixel width to one of
-/// its physical widths in millimetres: no screen resolution is assumed anywhere. 25.4 mm and 72 points to the inch.
+/// Font sizes and lengths between paper and pixels. The scale is always the ratio of an extent of an object in pixels
+/// to one of its physical extents in millimetres: no screen resolution is assumed anywhere. 25.4 mm and 72 points to
+/// the inch.
 namespace units {
 
 /// Whole pixels for a size in points, cut off towards zero. At least 1: sizes below one pixel, negative sizes, sizes

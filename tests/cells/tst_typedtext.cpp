@@ -98,16 +98,16 @@ void TypedTextTest::typed()
     QFETCH(const QString, text);
     QFETCH(const QString, typed);
     const QKeyEvent event(QEvent::KeyPress, key, Qt::KeyboardModifiers(modifiers), text);
-    QCOMPARE(typedText(event), typed);
+    QCOMPARE(typedtext::textOf(event), typed);
 }
 
 void TypedTextTest::digitKeys()
 {
     for (int key = Qt::Key_0; key <= Qt::Key_9; ++key)
-        QVERIFY2(isDigitKey(key), qPrintable(QString::number(key)));
+        QVERIFY2(typedtext::isDigitKey(key), qPrintable(QString::number(key)));
     for (const int key : {int(Qt::Key_Slash), int(Qt::Key_Colon), int(Qt::Key_A), int(Qt::Key_Minus),
                           int(Qt::Key_Period), int(Qt::Key_Backspace), int(Qt::Key_Left), 0, 5, -1})
-        QVERIFY2(!isDigitKey(key), qPrintable(QString::number(key)));
+        QVERIFY2(!typedtext::isDigitKey(key), qPrintable(QString::number(key)));
 }
 
 QTEST_APPLESS_MAIN(TypedTextTest)
