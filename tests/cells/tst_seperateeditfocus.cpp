@@ -258,6 +258,11 @@ void TestSeperateEditFocus::repaint_data()
     row("renewed", [](CellView &, Edit *edit) { edit->renew(); });
     row("range", [](CellView &, Edit *edit) { edit->setUnitRange(0, 3); });
     row("mode", [](CellView &, Edit *edit) { edit->setSeperateMode(Sep_Digits6); });
+    row("mode beyond the named ones",
+        [](CellView &, Edit *edit) { edit->setSeperateMode(static_cast<SeperateMode>(4)); });
+    row("value spread", [](CellView &, Edit *edit) { edit->strToList(QStringLiteral("5")); });
+    row("zeros at the end", [](CellView &, Edit *edit) { edit->fillZeroToTrail(); });
+    row("no zeros in front", [](CellView &, Edit *edit) { edit->removePrefixZero(); });
     row("number of cells", [](CellView &, Edit *edit) { edit->setNumOfEditable(3); });
     row("cells laid out", [](CellView &, Edit *edit) { edit->syncRectGeometry(); });
     row("text of a cell", [](CellView &, Edit *edit) { edit->setCharAt(0, QStringLiteral("5")); });
