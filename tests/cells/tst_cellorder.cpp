@@ -23,8 +23,8 @@ struct Places<TavroFinancialEdit>
 template <>
 struct Places<TavroSeperateEdit>
 {
-    static constexpr QPointF cell{30, 80};
-    static constexpr QPointF beside{50, 80};
+    static constexpr QPointF cell{24, 80};
+    static constexpr QPointF beside{40, 80};
 };
 
 template <typename Edit>
