@@ -1,0 +1,156 @@
+// SPDX-License-Identifier: MIT
+#include "datetime/datetimeeditprototype.h"
+
+#include "core/paintersaver.h"
+#include "datetime/sections.h"
+
+#include <QLabel>
+
+DateTimeEditPrototype::DateTimeEditPrototype(QWidget *parent)
+    : QSplitter(parent)
+{
+    constexpr int handleWidth = 2;
+    setHandleWidth(handleWidth);
+    setChildrenCollapsible(false);
+    setStyleSheet(QStringLiteral("DateTimeEditPrototype{background-color: rgba(255, 255, 255, 80);}"
+                                 "DateTimeEditPrototype::handle{background: #66CC99;}"));
+}
+
+DateTimeEditPrototype::~DateTimeEditPrototype() = default;
+
+void DateTimeEditPrototype::setDateTime(const QDateTime &dateTime)
+{
+    m_dateTime = dateTime;
+}
+
+void DateTimeEditPrototype::setSeperatorType(const Datetime_Seperator_Type &type)
+{
+    m_seperatorType = type;
+}
+
+void DateTimeEditPrototype::setIsShowSeperator(bool show)
+{
+    m_isShowSeperator = show;
+}
+
+QDateTime DateTimeEditPrototype::dateTime() const
+{
+    return m_dateTime;
+}
+
+Datetime_Seperator_Type DateTimeEditPrototype::seperatorType() const
+{
+    return m_seperatorType;
+}
+
+bool DateTimeEditPrototype::isShowSeperator() const
+{
+    return m_isShowSeperator;
+}
+
+QFont DateTimeEditPrototype::font() const
+{
+    return m_font;
+}
+
+void DateTimeEditPrototype::setFont(const QFont &font)
+{
+    if (font == m_font)
+        return;
+    m_font = font;
+    for (int i = 0; i < count(); ++i)
+        setUpFont(i);
+    layOut();
+}
+
+void DateTimeEditPrototype::setHandlesEnabled(bool enabled)
+{
+    // The first handle is never seen, but belongs to the first label all the same.
+    for (int i = 0; i < count(); ++i)
+        handle(i)->setEnabled(enabled);
+}
+
+void DateTimeEditPrototype::follow(const QRect &rect)
+{
+    if (rect == geometry())
+        return;
+    setGeometry(rect);
+    layOut();
+}
+
+void DateTimeEditPrototype::paintSections(QPainter *painter, const QRectF &rect)
+{
+    const PainterSaver saver(painter);
+    painter->setPen(Qt::black);
+    painter->setBrush(Qt::NoBrush);
+    painter->setFont(m_font);
+    const int top = qRound(rect.top());
+    const int height = qRound(rect.height());
+    int x = qRound(rect.left());
+    for (int i = 0; i < count(); ++i) {
+        const int width = widget(i)->width();
+        // A text that is wider than its section has to be seen to be mended.
+        if (m_isShowSeperator || isValue(i))
+            painter->drawText(QRect(x, top, width, height), Qt::AlignCenter | Qt::TextDontClip, labelAt(i)->text());
+        x += width + handleWidth();
+    }
+}
+
+QSize DateTimeEditPrototype::minimumSizeHint() const
+{
+    // The form says how small the boxes are.
+    return {0, 0};
+}
+
+void DateTimeEditPrototype::buildLabels(const QVector<sections::Label> &labels)
+{
+    while (count() > 0)
+        delete widget(count() - 1);
+    for (const sections::Label &label : labels) {
+        auto *widget = new QLabel(label.text, this);
+        widget->setAlignment(Qt::AlignCenter);
+        widget->setMargin(0);
+        // A printed box is narrower than the label would like to be, and lower.
+        widget->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
+        addWidget(widget);
+        setUpFont(count() - 1);
+    }
+    layOut();
+}
+
+void DateTimeEditPrototype::writeValues(const std::array<int, 3> &places, const std::array<QString, 3> &texts)
+{
+    for (std::size_t section = 0; section < places.size(); ++section) {
+        // Value and separator alternate, so the value at a place is the label at twice its number.
+        const int index = 2 * places[section];
+        if (index >= 0 && index < count())
+            labelAt(index)->setText(texts[section]);
+    }
+}
+
+void DateTimeEditPrototype::setUpFont(int index)
+{
+    QLabel *label = labelAt(index);
+    QFont font = m_font;
+    font.setHintingPreference(QFont::PreferVerticalHinting);
+    label->setFont(font);
+    if (!isValue(index))
+        label->setFixedWidth(QFontMetrics(m_font).horizontalAdvance(label->text()));
+}
+
+QLabel *DateTimeEditPrototype::labelAt(int index) const
+{
+    return static_cast<QLabel *>(widget(index));
+}
+
+bool DateTimeEditPrototype::isValue(int index) const
+{
+    // Separators follow values and never each other.
+    return index % 2 == 0;
+}
+
+void DateTimeEditPrototype::layOut()
+{
+    // A hidden widget waits for the moment at which it is shown. The one on paper never is.
+    refresh();
+}
