@@ -65,7 +65,7 @@ void DateTimeEditPrototype::setFont(const QFont &font)
 
 void DateTimeEditPrototype::setHandlesEnabled(bool enabled)
 {
-    // The first handle is never seen, but belongs to the first label all the same.
+    m_areHandlesEnabled = enabled;
     for (int i = 0; i < count(); ++i)
         handle(i)->setEnabled(enabled);
 }
@@ -84,14 +84,14 @@ void DateTimeEditPrototype::paintSections(QPainter *painter, const QRectF &rect)
     painter->setPen(Qt::black);
     painter->setBrush(Qt::NoBrush);
     painter->setFont(m_font);
-    const int top = qRound(rect.top());
-    const int height = qRound(rect.height());
-    int x = qRound(rect.left());
+    const QRect row = sections::wholePixels(rect);
+    int x = row.x();
     for (int i = 0; i < count(); ++i) {
         const int width = widget(i)->width();
         // A text that is wider than its section has to be seen to be mended.
         if (m_isShowSeperator || isValue(i))
-            painter->drawText(QRect(x, top, width, height), Qt::AlignCenter | Qt::TextDontClip, labelAt(i)->text());
+            painter->drawText(QRect(x, row.y(), width, row.height()), Qt::AlignCenter | Qt::TextDontClip,
+                              labelAt(i)->text());
         x += width + handleWidth();
     }
 }
@@ -115,6 +115,7 @@ void DateTimeEditPrototype::buildLabels(const QVector<sections::Label> &labels)
         addWidget(widget);
         setUpFont(count() - 1);
     }
+    setHandlesEnabled(m_areHandlesEnabled);
     layOut();
 }
 

@@ -62,5 +62,6 @@ private:
     QFont m_font;
     QDateTime m_dateTime;
     bool m_isShowSeperator = true;
+    bool m_areHandlesEnabled = true;
     Datetime_Seperator_Type m_seperatorType = Sep_ChineseDate;
 };

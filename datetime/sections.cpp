@@ -78,6 +78,13 @@ QVector<Label> labelsOf(const Places &places, Datetime_Seperator_Type type, bool
     return {};
 }
 
+int wholePixel(double pixels)
+{
+    constexpr double most = (1 << 24) - 1;
+    // Written so that "not a number" becomes a number too.
+    return pixels > -most ? qRound(qMin(pixels, most)) : pixels <= -most ? -qRound(most) : 0;
+}
+
 } // namespace
 
 Places placesOf(DateOrderType order)
@@ -98,6 +105,11 @@ QVector<Label> dateLabels(const Places &places, Datetime_Seperator_Type type, bo
 QVector<Label> timeLabels(const Places &places, Datetime_Seperator_Type type, bool isShown)
 {
     return labelsOf(places, type, isShown, Sep_ChineseTime, TimeWords);
+}
+
+QRect wholePixels(const QRectF &rect)
+{
+    return {wholePixel(rect.x()), wholePixel(rect.y()), wholePixel(rect.width()), wholePixel(rect.height())};
 }
 
 } // namespace sections

@@ -3,6 +3,7 @@
 
 #include "core/tavrotypes.h"
 
+#include <QRect>
 #include <QString>
 #include <QVector>
 #include <array>
@@ -29,5 +30,9 @@ struct Label
 /// same number. Empty for a separator type that the row does not have.
 QVector<Label> dateLabels(const Places &places, Datetime_Seperator_Type type, bool isShown);
 QVector<Label> timeLabels(const Places &places, Datetime_Seperator_Type type, bool isShown);
+
+/// Rectangle of an editor over that of an object: place and size rounded each on its own, halves upwards, and bounded
+/// to what a widget can have.
+QRect wholePixels(const QRectF &rect);
 
 } // namespace sections

@@ -3,6 +3,7 @@
 
 #include "core/paintersaver.h"
 #include "datetime/dateedit.h"
+#include "datetime/sections.h"
 #include "datetime/timeedit.h"
 
 #include <QGraphicsProxyWidget>
@@ -238,10 +239,9 @@ void TavroDatetime::syncDateTime()
 
 void TavroDatetime::syncDateTimeEditGeometry()
 {
-    const QRectF rect = boundingRect();
-    const QRect whole(qRound(rect.x()), qRound(rect.y()), qRound(rect.width()), qRound(rect.height()));
+    const QRect rect = sections::wholePixels(boundingRect());
     for (DateTimeEditPrototype *editor : editors())
-        editor->follow(whole);
+        editor->follow(rect);
 }
 
 void TavroDatetime::showCorrespondingSection()
