@@ -27,10 +27,12 @@ void DateEdit::setSeperatorType(const Datetime_Seperator_Type &type)
 
 void DateEdit::setIsShowSeperator(bool show)
 {
-    const QList<int> widths = sizes();
     DateTimeEditPrototype::setIsShowSeperator(show);
-    rebuild();
-    setSizes(widths);
+    whenAtRest([this] {
+        const QList<int> widths = sizes();
+        rebuild();
+        setSizes(widths);
+    });
 }
 
 DateOrderType DateEdit::orderType() const
@@ -58,9 +60,11 @@ void DateEdit::setTextStyle(int style)
 
 void DateEdit::rebuild()
 {
-    m_places = sections::placesOf(m_orderType);
-    buildLabels(sections::dateLabels(m_places, seperatorType(), isShowSeperator()));
-    writeValues(m_places, m_texts);
+    whenAtRest([this] {
+        m_places = sections::placesOf(m_orderType);
+        buildLabels(sections::dateLabels(m_places, seperatorType(), isShowSeperator()));
+        writeValues(m_places, m_texts);
+    });
 }
 
 void DateEdit::updateTexts()

@@ -5,6 +5,34 @@
 #include "datetime/sections.h"
 
 #include <QLabel>
+#include <QPointer>
+#include <utility>
+
+class DateTimeEditPrototype::Handle : public QSplitterHandle
+{
+public:
+    explicit Handle(DateTimeEditPrototype *editor)
+        : QSplitterHandle(editor->orientation(), editor)
+        , m_editor(editor)
+    {
+    }
+
+protected:
+    void mouseMoveEvent(QMouseEvent *event) override
+    {
+        const QPointer<DateTimeEditPrototype> editor(m_editor);
+        editor->m_isMoving = true;
+        QSplitterHandle::mouseMoveEvent(event);
+        if (!editor)
+            return;
+        editor->m_isMoving = false;
+        if (!editor->m_waiting.isEmpty())
+            QMetaObject::invokeMethod(m_editor, &DateTimeEditPrototype::callWaiting, Qt::QueuedConnection);
+    }
+
+private:
+    DateTimeEditPrototype *m_editor;
+};
 
 DateTimeEditPrototype::DateTimeEditPrototype(QWidget *parent)
     : QSplitter(parent)
@@ -12,6 +40,8 @@ DateTimeEditPrototype::DateTimeEditPrototype(QWidget *parent)
     constexpr int handleWidth = 2;
     setHandleWidth(handleWidth);
     setChildrenCollapsible(false);
+    // Dates run from the left also where the language does not.
+    setLayoutDirection(Qt::LeftToRight);
     setStyleSheet(QStringLiteral("DateTimeEditPrototype{background-color: rgba(255, 255, 255, 80);}"
                                  "DateTimeEditPrototype::handle{background: #66CC99;}"));
 }
@@ -100,6 +130,27 @@ QSize DateTimeEditPrototype::minimumSizeHint() const
 {
     // The form says how small the boxes are.
     return {0, 0};
+}
+
+QSplitterHandle *DateTimeEditPrototype::createHandle()
+{
+    return new Handle(this);
+}
+
+void DateTimeEditPrototype::whenAtRest(const std::function<void()> &rebuild)
+{
+    if (m_isMoving)
+        m_waiting.append(rebuild);
+    else
+        rebuild();
+}
+
+void DateTimeEditPrototype::callWaiting()
+{
+    if (m_isMoving)
+        return;
+    for (const std::function<void()> &rebuild : std::exchange(m_waiting, {}))
+        rebuild();
 }
 
 void DateTimeEditPrototype::buildLabels(const QVector<sections::Label> &labels)

@@ -8,6 +8,7 @@
 #include <QSplitter>
 #include <QVector>
 #include <array>
+#include <functional>
 
 class QLabel;
 namespace sections {
@@ -48,20 +49,29 @@ public:
     QSize minimumSizeHint() const override;
 
 protected:
+    QSplitterHandle *createHandle() override;
+    /// Calls what replaces labels: at once, or as soon as the event loop turns again where a handle is just being
+    /// moved. Whoever moves it goes on using it.
+    void whenAtRest(const std::function<void()> &rebuild);
     /// Replaces all labels. Their widths are shared out anew.
     void buildLabels(const QVector<sections::Label> &labels);
     /// Writes the text of each section into the value at its place.
     void writeValues(const std::array<int, 3> &places, const std::array<QString, 3> &texts);
 
 private:
+    class Handle;
+
     QLabel *labelAt(int index) const;
     bool isValue(int index) const;
     void setUpFont(int index);
     void layOut();
+    void callWaiting();
 
     QFont m_font;
     QDateTime m_dateTime;
     bool m_isShowSeperator = true;
     bool m_areHandlesEnabled = true;
+    bool m_isMoving = false;
+    QVector<std::function<void()>> m_waiting;
     Datetime_Seperator_Type m_seperatorType = Sep_ChineseDate;
 };

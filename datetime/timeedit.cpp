@@ -28,10 +28,12 @@ void TimeEdit::setSeperatorType(const Datetime_Seperator_Type &type)
 
 void TimeEdit::setIsShowSeperator(bool show)
 {
-    const QList<int> widths = sizes();
     DateTimeEditPrototype::setIsShowSeperator(show);
-    rebuild();
-    setSizes(widths);
+    whenAtRest([this] {
+        const QList<int> widths = sizes();
+        rebuild();
+        setSizes(widths);
+    });
 }
 
 TimeOrderType TimeEdit::orderType() const
@@ -47,7 +49,9 @@ void TimeEdit::setOrderType(const TimeOrderType &order)
 
 void TimeEdit::rebuild()
 {
-    m_places = sections::placesOf(m_orderType);
-    buildLabels(sections::timeLabels(m_places, seperatorType(), isShowSeperator()));
-    writeValues(m_places, m_texts);
+    whenAtRest([this] {
+        m_places = sections::placesOf(m_orderType);
+        buildLabels(sections::timeLabels(m_places, seperatorType(), isShowSeperator()));
+        writeValues(m_places, m_texts);
+    });
 }
