@@ -89,7 +89,7 @@ void DateTimeEditPrototype::setFont(const QFont &font)
         return;
     m_font = font;
     for (int i = 0; i < count(); ++i)
-        setUpFont(i);
+        setUpFont(labelAt(i), isValue(i));
     layOut();
 }
 
@@ -158,13 +158,14 @@ void DateTimeEditPrototype::buildLabels(const QVector<sections::Label> &labels)
     while (count() > 0)
         delete widget(count() - 1);
     for (const sections::Label &label : labels) {
-        auto *widget = new QLabel(label.text, this);
+        // A splitter takes in whatever becomes its child, so a label is set up before and not laid out twice.
+        auto *widget = new QLabel(label.text);
         widget->setAlignment(Qt::AlignCenter);
         widget->setMargin(0);
         // A printed box is narrower than the label would like to be, and lower.
         widget->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
+        setUpFont(widget, label.isValue);
         addWidget(widget);
-        setUpFont(count() - 1);
     }
     setHandlesEnabled(m_areHandlesEnabled);
     layOut();
@@ -180,13 +181,12 @@ void DateTimeEditPrototype::writeValues(const std::array<int, 3> &places, const 
     }
 }
 
-void DateTimeEditPrototype::setUpFont(int index)
+void DateTimeEditPrototype::setUpFont(QLabel *label, bool isValue)
 {
-    QLabel *label = labelAt(index);
     QFont font = m_font;
     font.setHintingPreference(QFont::PreferVerticalHinting);
     label->setFont(font);
-    if (!isValue(index))
+    if (!isValue)
         label->setFixedWidth(QFontMetrics(m_font).horizontalAdvance(label->text()));
 }
 

@@ -63,7 +63,7 @@ private:
 
     QLabel *labelAt(int index) const;
     bool isValue(int index) const;
-    void setUpFont(int index);
+    void setUpFont(QLabel *label, bool isValue);
     void layOut();
     void callWaiting();
 
