@@ -91,6 +91,8 @@ void TavroDatetime::setFont(const QFont &font)
     TavroText::setFont(font);
     for (DateTimeEditPrototype *editor : editors())
         editor->setFont(font);
+    // Separators in a smaller font may make room for a rectangle that was too narrow.
+    syncDateTimeEditGeometry();
 }
 
 bool TavroDatetime::isRealTime() const
@@ -242,6 +244,9 @@ void TavroDatetime::syncDateTimeEditGeometry()
     const QRect rect = sections::wholePixels(boundingRect());
     for (DateTimeEditPrototype *editor : editors())
         editor->follow(rect);
+    // A hidden editor tells its proxy nothing, which would press it into the old rectangle at the next occasion.
+    if (m_proxy && m_proxy->widget())
+        m_proxy->setGeometry(m_proxy->widget()->geometry());
 }
 
 void TavroDatetime::showCorrespondingSection()
