@@ -8,6 +8,20 @@
 #include <QPointer>
 #include <utility>
 
+namespace {
+
+/// Label that takes the place it is given. It does not measure its text to say what it would like: the row would have
+/// that done for all labels at each change of one.
+class SectionLabel : public QLabel
+{
+public:
+    using QLabel::QLabel;
+    QSize sizeHint() const override { return {minimumWidth(), 0}; }
+    QSize minimumSizeHint() const override { return {0, 0}; }
+};
+
+} // namespace
+
 class DateTimeEditPrototype::Handle : public QSplitterHandle
 {
 public:
@@ -16,6 +30,9 @@ public:
         , m_editor(editor)
     {
     }
+
+    // The style sheet gives no size, and the row asks every handle again at each of its changes.
+    QSize sizeHint() const override { return {m_editor->handleWidth(), m_editor->handleWidth()}; }
 
 protected:
     void mouseMoveEvent(QMouseEvent *event) override
@@ -159,7 +176,7 @@ void DateTimeEditPrototype::buildLabels(const QVector<sections::Label> &labels)
         delete widget(count() - 1);
     for (const sections::Label &label : labels) {
         // A splitter takes in whatever becomes its child, so a label is set up before and not laid out twice.
-        auto *widget = new QLabel(label.text);
+        auto *widget = new SectionLabel(label.text);
         widget->setAlignment(Qt::AlignCenter);
         widget->setMargin(0);
         // A printed box is narrower than the label would like to be, and lower.
