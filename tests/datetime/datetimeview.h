@@ -68,18 +68,19 @@ public:
 
     void press(const QPoint &place, Qt::MouseButton button = Qt::LeftButton)
     {
-        QTest::mousePress(m_view.viewport(), button, Qt::NoModifier, place);
+        send(QEvent::MouseButtonPress, place, button, button);
     }
     void release(const QPoint &place, Qt::MouseButton button = Qt::LeftButton)
     {
-        QTest::mouseRelease(m_view.viewport(), button, Qt::NoModifier, place);
+        send(QEvent::MouseButtonRelease, place, button, Qt::NoButton);
     }
     /// Moves the pointer with the left button held.
-    void moveTo(const QPoint &place)
+    void moveTo(const QPoint &place) { send(QEvent::MouseMove, place, Qt::NoButton, Qt::LeftButton); }
+    void doubleClick(const QPoint &place)
     {
-        QMouseEvent event(QEvent::MouseMove, place, m_view.viewport()->mapToGlobal(place), Qt::NoButton, Qt::LeftButton,
-                          Qt::NoModifier);
-        QCoreApplication::sendEvent(m_view.viewport(), &event);
+        click(place);
+        send(QEvent::MouseButtonDblClick, place, Qt::LeftButton, Qt::LeftButton);
+        release(place);
     }
     void click(const QPoint &place, Qt::MouseButton button = Qt::LeftButton)
     {
@@ -105,6 +106,14 @@ public:
     }
 
 private:
+    // Unlike QTest::mousePress() without a warning where the form leaves an event to the window.
+    void send(QEvent::Type type, const QPoint &place, Qt::MouseButton button, Qt::MouseButtons buttons)
+    {
+        QWidget *viewport = m_view.viewport();
+        QMouseEvent event(type, place, viewport->mapToGlobal(place), button, buttons, Qt::NoModifier);
+        QCoreApplication::sendEvent(viewport, &event);
+    }
+
     static QPoint inWindow(const TavroDatetime &object, const QPoint &inEditor)
     {
         return object.widgetPrxy()->mapToScene(inEditor).toPoint();
