@@ -342,7 +342,11 @@ void TavroDatetime::onSplitterMoved()
 
 void TavroDatetime::mousePressEvent(QGraphicsSceneMouseEvent *event)
 {
+    const QPointer<TavroDatetime> self(this);
     if (isShowCalendar())
         Q_EMIT aboutToShowCalendar(contentData().toDateTime());
-    TavroText::mousePressEvent(event);
+    // The host may have cleared its form while the calendar was open. Then the press stays accepted, so that the scene
+    // does not look for another object below one that is gone.
+    if (self)
+        TavroText::mousePressEvent(event);
 }
