@@ -4,11 +4,18 @@
 #include <QApplication>
 #include <QCalendarWidget>
 #include <QGraphicsDropShadowEffect>
+#include <QHeaderView>
+#include <QKeyEvent>
 #include <QPushButton>
+#include <QTableView>
 #include <QTimeEdit>
 #include <QVBoxLayout>
+#include <algorithm>
 
 namespace {
+
+// Large fonts want more height than the dialog has. What may shrink does so before it covers its neighbour.
+constexpr int leastHeight = 20;
 
 QFont dialogFont()
 {
@@ -20,6 +27,27 @@ QFont dialogFont()
 QIcon icon(const QString &name)
 {
     return QIcon(QStringLiteral(":/image/image/%1.svg").arg(name));
+}
+
+QStringList shortDayNames(const QLocale &locale)
+{
+    QStringList names;
+    for (int day = Qt::Monday; day <= Qt::Sunday; ++day)
+        names.append(locale.dayName(day, QLocale::ShortFormat));
+    return names;
+}
+
+bool fits(const QFont &font, const QStringList &names, const QSize &cell)
+{
+    const QFontMetrics metrics(font);
+    return metrics.height() <= cell.height() && std::all_of(names.cbegin(), names.cend(), [&](const QString &name) {
+               return metrics.horizontalAdvance(name) <= cell.width();
+           });
+}
+
+bool isEnter(const QKeyEvent &event)
+{
+    return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
 }
 
 } // namespace
@@ -67,9 +95,16 @@ void CalendarWidget::setUpCalendar()
     shadow->setOffset(3, 3);
     shadow->setColor(Qt::gray);
     m_calendar->setGraphicsEffect(shadow);
+    if (auto *weeks = m_calendar->findChild<QTableView *>()) {
+        // Otherwise no cell is smaller than the font's largest letter, and the last weeks and days are out of sight.
+        weeks->horizontalHeader()->setMinimumSectionSize(1);
+        weeks->verticalHeader()->setMinimumSectionSize(1);
+        weeks->installEventFilter(this);
+    }
 
     m_timeEdit->setFont(dialogFont());
     m_timeEdit->setFixedWidth(150);
+    m_timeEdit->setMinimumHeight(leastHeight);
     m_timeEdit->setAlignment(Qt::AlignCenter);
 }
 
@@ -89,10 +124,51 @@ void CalendarWidget::setUpButtons()
     m_todayButton->setFixedWidth(m_todayButton->sizeHint().height());
 
     m_confirmButton->setStyleSheet(whiteGround);
+    m_confirmButton->setMinimumHeight(leastHeight);
     // Enter takes what is selected, wherever the keyboard is; the first button would close the dialog instead.
     m_closeButton->setAutoDefault(false);
     m_todayButton->setAutoDefault(false);
     m_confirmButton->setDefault(true);
+}
+
+// The weeks share what the fixed size leaves them. By itself their table would keep cells as large as the largest
+// letter of the font, and the last weeks and days would be out of sight.
+void CalendarWidget::fitWeeks()
+{
+    auto *weeks = m_calendar->findChild<QTableView *>();
+    if (!weeks)
+        return;
+    constexpr int daysOfWeek = 7;
+    constexpr int rows = 1 + 6; // names of the days, weeks
+    const int margin = weeks->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, weeks) + 1;
+    const QSize area = weeks->viewport()->size();
+    const QSize cell(area.width() / daysOfWeek - 2 * margin, area.height() / rows);
+    const QStringList names = shortDayNames(m_calendar->locale());
+    QFont font = m_calendar->font();
+    for (int size = QFontInfo(font).pixelSize(); size > 1 && !fits(font, names, cell); --size)
+        font.setPixelSize(size - 1);
+    weeks->setFont(font);
+}
+
+void CalendarWidget::showEvent(QShowEvent *event)
+{
+    fitWeeks();
+    // Each time anew: keys are meant for the weeks, not for the button that closed the dialog before.
+    m_calendar->setFocus();
+    QDialog::showEvent(event);
+}
+
+bool CalendarWidget::eventFilter(QObject *watched, QEvent *event)
+{
+    // The weeks keep Enter to themselves. It is theirs first, since it may end a date that is being typed.
+    if (event->type() == QEvent::KeyPress && isEnter(*static_cast<QKeyEvent *>(event))) {
+        const auto confirm = [this] {
+            if (isVisible())
+                onConfirmDatetime();
+        };
+        QMetaObject::invokeMethod(this, confirm, Qt::QueuedConnection);
+    }
+    return QDialog::eventFilter(watched, event);
 }
 
 void CalendarWidget::showWithDatetime(const QDateTime &datetime)

@@ -35,9 +35,15 @@ Q_SIGNALS:
     /// Declared for the host; never emitted by the dialog.
     void dateTimeSelected(const QDateTime &datetime);
 
+protected:
+    void showEvent(QShowEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
     void setUpCalendar();
     void setUpButtons();
+    /// Shrinks the font of the weeks until all of them are seen.
+    void fitWeeks();
 
     QCalendarWidget *m_calendar;
     QTimeEdit *m_timeEdit;
