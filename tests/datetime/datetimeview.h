@@ -19,8 +19,9 @@ struct Editors
         const bool wasModified = object.isModified();
         object.setDateTimeFormat(Dt_Time);
         times = qobject_cast<TimeEdit *>(object.widgetPrxy()->widget());
-        object.setDateTimeFormat(format);
+        object.setDateTimeFormat(Dt_ArabicPadded);
         dates = qobject_cast<DateEdit *>(object.widgetPrxy()->widget());
+        object.setDateTimeFormat(format);
         object.setIsModified(wasModified);
     }
 
