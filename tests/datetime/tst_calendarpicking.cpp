@@ -6,13 +6,13 @@
 #include <QSpinBox>
 #include <QToolButton>
 
+using Act = std::function<void(CalendarUser &)>;
+Q_DECLARE_METATYPE(Act)
 Q_DECLARE_METATYPE(Qt::Key)
 
 namespace {
 
 const QDateTime value(QDate(2022, 10, 20), QTime(14, 35, 6, 789));
-
-using Act = std::function<void(CalendarUser &)>;
 
 QWidget *yearEditOf(const CalendarUser &user)
 {
@@ -386,8 +386,6 @@ void CalendarPickingTest::opensAgain()
     QCOMPARE(user.open(other, [&] { QCOMPARE(dialog.currentDateTime(), other); }), CalendarUser::leftOpen);
     QCOMPARE(user.open(value, [&] { CalendarUser::click(user.closeButton()); }), 0);
 }
-
-Q_DECLARE_METATYPE(Act)
 
 QTEST_MAIN(CalendarPickingTest)
 #include "tst_calendarpicking.moc"
