@@ -41,6 +41,38 @@ inline std::unique_ptr<TavroDatetime> object(int format, int mode)
     return made;
 }
 
+/// Tells how often it was painted, and how often its content was set.
+class Counting : public TavroDatetime
+{
+public:
+    void setContentData(const QVariant &content) override
+    {
+        ++m_contents;
+        TavroDatetime::setContentData(content);
+    }
+    void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget) override
+    {
+        ++m_paints;
+        TavroDatetime::paint(painter, option, widget);
+    }
+    int m_contents = 0;
+    int m_paints = 0;
+};
+
+/// Lets the event loop turn until nothing was painted for a while. Answers whether that came.
+inline bool comesToRest(const Counting &object)
+{
+    constexpr int mostTurns = 200;
+    constexpr int quietTurns = 20;
+    int quiet = 0;
+    for (int turn = 0; turn < mostTurns && quiet < quietTurns; ++turn) {
+        const int before = object.m_paints;
+        QCoreApplication::processEvents();
+        quiet = object.m_paints == before ? quiet + 1 : 0;
+    }
+    return quiet == quietTurns;
+}
+
 inline void addFormatAndModeRows()
 {
     QTest::addColumn<int>("format");

@@ -103,6 +103,8 @@ private Q_SLOTS:
     void rebuildWhileTheCalendarIsAskedFor();
     void deletedLaterFromItsSignals();
     void deletedWhileAHandleIsHeld();
+    void partsGoInTheirOrder_data();
+    void partsGoInTheirOrder();
     void everythingGoesWithTheObject_data();
     void everythingGoesWithTheObject();
     void everythingGoesWithTheScene_data();
@@ -285,6 +287,29 @@ void TestDatetimeLifetimes::deletedWhileAHandleIsHeld()
     form.release(handle + QPoint(14, 0));
     QCoreApplication::processEvents();
     QCOMPARE(form.scene().mouseGrabberItem(), nullptr);
+}
+
+void TestDatetimeLifetimes::partsGoInTheirOrder_data()
+{
+    QTest::addColumn<int>("format");
+    for (const int format : {3, 5, 6})
+        QTest::addRow("format %d", format) << format;
+}
+
+// The proxy outlives the editor that it held.
+void TestDatetimeLifetimes::partsGoInTheirOrder()
+{
+    QFETCH(int, format);
+    auto *object = new TavroDatetime;
+    const Editors both(*object);
+    object->setDateTimeFormat(static_cast<Datetime_Format>(format));
+    QStringList gone;
+    connect(both.dates, &QObject::destroyed, this, [&] { gone << QStringLiteral("dates"); });
+    connect(both.times, &QObject::destroyed, this, [&] { gone << QStringLiteral("times"); });
+    connect(object->widgetPrxy(), &QObject::destroyed, this, [&] { gone << QStringLiteral("proxy"); });
+    connect(object, &QObject::destroyed, this, [&] { gone << QStringLiteral("object"); });
+    delete object;
+    QCOMPARE(gone.join(QLatin1Char(' ')), QStringLiteral("dates times proxy object"));
 }
 
 void TestDatetimeLifetimes::everythingGoesWithTheObject_data()

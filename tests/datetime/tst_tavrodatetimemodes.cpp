@@ -53,6 +53,7 @@ private Q_SLOTS:
     void handlesPerMode_data();
     void handlesPerMode();
     void handlesOfLabelsBuiltInAMode();
+    void handlesOfDisabledObjects();
     void proxyTakesTheEditorInUse();
     void modesBelongToTheObject_data();
     void modesBelongToTheObject();
@@ -209,6 +210,19 @@ void TestTavroDatetimeModes::handlesOfLabelsBuiltInAMode()
         QVERIFY(areHandlesEnabled(both.dates, enabled));
         QVERIFY(areHandlesEnabled(both.times, enabled));
     }
+}
+
+// An object that is disabled while it is filled in can be laid out again.
+void TestTavroDatetimeModes::handlesOfDisabledObjects()
+{
+    TavroDatetime object;
+    const Editors both(object);
+    object.setObjEnabled(false);
+    object.setPaintMode(Paint_Input);
+    QVERIFY(!both.dates->isEnabled());
+    object.setPaintMode(Paint_Design);
+    QVERIFY(areHandlesEnabled(both.dates, true));
+    QVERIFY(areHandlesEnabled(both.times, true));
 }
 
 void TestTavroDatetimeModes::proxyTakesTheEditorInUse()

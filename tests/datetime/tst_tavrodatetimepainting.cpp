@@ -27,6 +27,8 @@ private Q_SLOTS:
     void patternIsCentred();
     void painterIsRestored_data() { addFormatAndModeRows(); }
     void painterIsRestored();
+    void settingsAreSeenAtOnce_data();
+    void settingsAreSeenAtOnce();
 };
 
 void TestTavroDatetimePainting::commands_data()
@@ -248,6 +250,38 @@ void TestTavroDatetimePainting::painterIsRestored()
     QCOMPARE(painter.pen(), pen);
     QCOMPARE(painter.brush(), QBrush(Qt::cyan));
     QCOMPARE(painter.font(), font);
+}
+
+void TestTavroDatetimePainting::settingsAreSeenAtOnce_data()
+{
+    QTest::addColumn<int>("setter");
+    QTest::newRow("pattern") << 0;
+    QTest::newRow("format") << 1;
+    QTest::newRow("content") << 2;
+    QTest::newRow("real time") << 3;
+}
+
+void TestTavroDatetimePainting::settingsAreSeenAtOnce()
+{
+    QFETCH(int, setter);
+    DatetimeView form;
+    QVERIFY(form.isActive());
+    auto *made = new Counting;
+    made->setBoundingRect(Boxes);
+    made->setDateTimeFormat(Dt_Custom);
+    form.scene().addItem(made);
+    QTRY_VERIFY(made->m_paints > 0);
+    QVERIFY(comesToRest(*made));
+    const int before = made->m_paints;
+    if (setter == 0)
+        made->setCustomDatetimeFormat(QStringLiteral("MM/yy"));
+    else if (setter == 1)
+        made->setDateTimeFormat(Dt_Custom);
+    else if (setter == 2)
+        made->setContentData(LongAgo);
+    else
+        made->setIsRealTime(true);
+    QTRY_VERIFY(made->m_paints > before);
 }
 
 QTEST_MAIN(TestTavroDatetimePainting)
