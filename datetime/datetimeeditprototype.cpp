@@ -38,12 +38,13 @@ protected:
     void mouseMoveEvent(QMouseEvent *event) override
     {
         const QPointer<DateTimeEditPrototype> editor(m_editor);
-        editor->m_isMoving = true;
+        // A listener may let the event loop turn, and so come by here again.
+        const bool wasMoving = std::exchange(editor->m_isMoving, true);
         QSplitterHandle::mouseMoveEvent(event);
         if (!editor)
             return;
-        editor->m_isMoving = false;
-        if (!editor->m_waiting.isEmpty())
+        editor->m_isMoving = wasMoving;
+        if (!wasMoving && !editor->m_waiting.isEmpty())
             QMetaObject::invokeMethod(m_editor, &DateTimeEditPrototype::callWaiting, Qt::QueuedConnection);
     }
 

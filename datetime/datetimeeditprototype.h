@@ -17,7 +17,8 @@ struct Label;
 
 /// Row of labels over the boxes of a printed form: the sections of a date or a time and the separators between them.
 /// The handles are dragged to move a section over its box, down to the width of a pixel. Takes no key and no wheel.
-/// Separators are as wide as their text; the values share the rest.
+/// Separators are as wide as their text; the values share the rest. Where a listener to splitterMoved() asks for other
+/// sections, the labels follow when the event loop turns again.
 class TAVRO_EXPORT DateTimeEditPrototype : public QSplitter
 {
     Q_OBJECT

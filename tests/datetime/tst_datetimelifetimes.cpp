@@ -97,6 +97,7 @@ private Q_SLOTS:
     void rebuildWhileAnEditorIsDragged();
     void rebuildWhileAnObjectIsDragged_data() { addRebuildRows(); }
     void rebuildWhileAnObjectIsDragged();
+    void eventLoopTurnsWhileDragged();
     void timeIsRebuiltWhileDragged();
     void changesOfAnotherKindWhileDragged_data();
     void changesOfAnotherKindWhileDragged();
@@ -174,6 +175,29 @@ void TestDatetimeLifetimes::rebuildWhileAnObjectIsDragged()
     form.drag(next, next + QPoint(-8, 0));
     QVERIFY(moves > 0);
     QTRY_COMPARE(rowOf(*dates), QString::fromUtf8(Rebuilds.at(index).row));
+}
+
+// A listener that opens a dialog: the next moves come before it has returned.
+void TestDatetimeLifetimes::eventLoopTurnsWhileDragged()
+{
+    DatetimeView form;
+    QVERIFY(form.isActive());
+    TavroDatetime *object = form.add(Boxes, Dt_Arabic, Paint_Design);
+    const QPointer<QSplitterHandle> handle = editorOf(*object)->handle(3);
+    const QPoint from = DatetimeView::handleCenter(*object, 3);
+    int moves = 0;
+    connect(editorOf(*object), &QSplitter::splitterMoved, object, [&] {
+        object->setOrderType(Order_Y);
+        if (++moves == 1)
+            form.moveTo(from + QPoint(9, 0));
+        QCoreApplication::processEvents();
+        QVERIFY(!handle.isNull());
+    });
+    form.press(from);
+    form.moveTo(from + QPoint(5, 0));
+    QCOMPARE(moves, 2);
+    QTRY_COMPARE(rowOf(*editorOf(*object)), QStringLiteral("2022|年"));
+    form.release(from);
 }
 
 void TestDatetimeLifetimes::timeIsRebuiltWhileDragged()
