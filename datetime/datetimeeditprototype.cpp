@@ -133,14 +133,14 @@ void DateTimeEditPrototype::paintSections(QPainter *painter, const QRectF &rect)
     painter->setBrush(Qt::NoBrush);
     painter->setFont(m_font);
     const QRect row = sections::wholePixels(rect);
+    const QList<int> widths = sizes();
     int x = row.x();
-    for (int i = 0; i < count(); ++i) {
-        const int width = widget(i)->width();
+    for (int i = 0; i < widths.size(); ++i) {
         // A text that is wider than its section has to be seen to be mended.
         if (m_isShowSeperator || isValue(i))
-            painter->drawText(QRect(x, row.y(), width, row.height()), Qt::AlignCenter | Qt::TextDontClip,
-                              labelAt(i)->text());
-        x += width + handleWidth();
+            painter->drawText(QRect(x, row.y(), widths.at(i), row.height()), Qt::AlignCenter | Qt::TextDontClip,
+                              m_texts.at(i));
+        x += widths.at(i) + handleWidth();
     }
 }
 
@@ -175,7 +175,9 @@ void DateTimeEditPrototype::buildLabels(const QVector<sections::Label> &labels)
 {
     while (count() > 0)
         delete widget(count() - 1);
+    m_texts.clear();
     for (const sections::Label &label : labels) {
+        m_texts.append(label.text);
         // A splitter takes in whatever becomes its child, so a label is set up before and not laid out twice.
         auto *widget = new SectionLabel(label.text);
         widget->setAlignment(Qt::AlignCenter);
@@ -194,8 +196,10 @@ void DateTimeEditPrototype::writeValues(const std::array<int, 3> &places, const 
     for (std::size_t section = 0; section < places.size(); ++section) {
         // Value and separator alternate, so the value at a place is the label at twice its number.
         const int index = 2 * places[section];
-        if (index >= 0 && index < count())
-            labelAt(index)->setText(texts[section]);
+        if (index < 0 || index >= count())
+            continue;
+        m_texts[index] = texts[section];
+        labelAt(index)->setText(texts[section]);
     }
 }
 

@@ -69,6 +69,7 @@ private:
     void callWaiting();
 
     QFont m_font;
+    QVector<QString> m_texts; ///< of the labels, painted without a walk over the widgets
     QDateTime m_dateTime;
     bool m_isShowSeperator = true;
     bool m_areHandlesEnabled = true;
