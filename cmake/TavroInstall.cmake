@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-# Library, headers, CMake package and pkg-config file.
+# Library, headers, CMake package and pkg-config file. The translations install themselves.
 include(CMakePackageConfigHelpers)
 
 set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/Tavro)
@@ -15,13 +15,13 @@ foreach(header IN LISTS public_headers)
 endforeach()
 
 configure_package_config_file(cmake/TavroConfig.cmake.in ${PROJECT_BINARY_DIR}/TavroConfig.cmake
-    INSTALL_DESTINATION ${package_dir})
+    INSTALL_DESTINATION ${package_dir} PATH_VARS translations_install_dir)
 write_basic_package_version_file(${PROJECT_BINARY_DIR}/TavroConfigVersion.cmake COMPATIBILITY SameMinorVersion)
 install(FILES ${PROJECT_BINARY_DIR}/TavroConfig.cmake ${PROJECT_BINARY_DIR}/TavroConfigVersion.cmake
     DESTINATION ${package_dir} COMPONENT development)
 
 # Relative to the file itself, so that an installation can be moved and staged below any prefix.
-foreach(dir LIBDIR INCLUDEDIR)
+foreach(dir LIBDIR INCLUDEDIR DATADIR)
     if(IS_ABSOLUTE "${CMAKE_INSTALL_${dir}}")
         set(pc_${dir} "${CMAKE_INSTALL_${dir}}")
     else()

@@ -3,6 +3,7 @@
 
 #include "cells/tavrofinancialedit.h"
 #include "cells/tavroseperateedit.h"
+#include "datetime/tavrodatetime.h"
 #include "entry/tavroedit.h"
 #include "entry/tavrolabel.h"
 #include "graphic/tavroline.h"
@@ -23,6 +24,8 @@ TavroPrototype *ControlFactory::factory(ObjType kind)
         return new TavroSeperateEdit;
     case Obj_Label:
         return new TavroLabel;
+    case Obj_Datetime:
+        return new TavroDatetime;
     default:
         return nullptr;
     }

@@ -7,6 +7,7 @@
 #include "core/sizehandlerect.h"
 
 #include <QPainter>
+#include <QScopedValueRollback>
 
 namespace {
 
@@ -149,6 +150,7 @@ void TavroPrototype::paint(QPainter *painter, const QStyleOptionGraphicsItem *, 
 {
     if (m_boundingRect.width() == 0 && m_boundingRect.height() == 0)
         return;
+    const QScopedValueRollback<bool> painting(m_isPainting, true);
     painter->setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing | QPainter::SmoothPixmapTransform);
     if (m_paintMode == Paint_Design)
         designPaint(painter);

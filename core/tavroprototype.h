@@ -234,7 +234,8 @@ protected:
     void storeContent(const QVariant &content);
     /// Everything of the base setBoundingRect() but the repaint and the signal.
     void storeBoundingRect(const QRectF &rect);
-    /// update(), which also reaches an object of negative size.
+    /// update(), which also reaches an object of negative size. Nothing while the object is being painted: one that
+    /// follows the clock would be painted for ever.
     void repaint();
     /// Asks the scene to repaint the object where its rectangle has a negative size: views do not for an item's update.
     void repaintIfNegative();
@@ -269,6 +270,7 @@ private:
     int m_backgroundStyle = 0;
     unsigned int m_backgroundColor = 0xFFFFFF;
     Paint_Mode m_paintMode = Paint_Design;
+    bool m_isPainting = false;
     QVariant m_contentData;
     QVariant m_presetData;
     QRectF m_boundingRect;

@@ -143,6 +143,8 @@ void TavroPrototype::storeBoundingRect(const QRectF &rect)
 
 void TavroPrototype::repaint()
 {
+    if (m_isPainting)
+        return;
     update();
     repaintIfNegative();
 }

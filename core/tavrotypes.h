@@ -98,6 +98,43 @@ struct _UnitRange
     int end = 0;
 };
 
+/// How a date/time object writes its value; 0 to 4 are dates, and the styles of a date editor. Others are shown as
+/// dates whose texts stay as they were.
+enum Datetime_Format : int {
+    Dt_CapitalFormal = 0, ///< Chinese capital numerals; 零 in front of the months and days 1 to 10, 20 and 30
+    Dt_Capital = 1,       ///< Chinese capital numerals
+    Dt_Numeral = 2,       ///< everyday Chinese numerals
+    Dt_ArabicPadded = 3,  ///< digits, month and day with two
+    Dt_Arabic = 4,        ///< digits
+    Dt_Time = 5,          ///< hour, minute and second
+    Dt_Custom = 6         ///< one text by a pattern, without sections
+};
+
+/// What stands between or behind the sections of a date or time. A date editor given Sep_ChineseTime, a time editor
+/// given Sep_ChineseDate, and both given a number beyond the named ones have no sections at all.
+enum Datetime_Seperator_Type : int {
+    Sep_ChineseDate = 0, ///< 年 月 日, one behind each section
+    Sep_ChineseTime = 1, ///< 时 分 秒, one behind each section
+    Sep_Dash = 2,
+    Sep_Slash = 3,
+    Sep_Colon = 4
+};
+
+/// Sections of a date, from the left: year, month, day. Others have none.
+enum DateOrderType : int {
+    Order_YMD = 0,
+    Order_DMY = 1,
+    Order_YDM = 2,
+    Order_YM = 3,
+    Order_MD = 4,
+    Order_MY = 5,
+    Order_DM = 6,
+    Order_Y = 7
+};
+
+/// Sections of a time, from the left: hour, minute, second. Others have none.
+enum TimeOrderType : int { Order_HMS = 0, Order_HM = 1 };
+
 /// Names the database column that an object is bound to. The library stores it and opens no database.
 struct _Database_Table_Col
 {

@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "desk/commandline.h"
 #include "desk/fonts.h"
+#include "desk/translations.h"
 
 #include <QApplication>
+#include <QLibraryInfo>
+#include <QLocale>
 #include <QTextStream>
 #include <cstdio>
 
@@ -24,7 +27,8 @@ int main(int argc, char *argv[])
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     qInstallMessageHandler(writeMessage);
-    const QApplication application(argc, argv);
+    QApplication application(argc, argv);
+    translations::install(application, QLocale::system(), QLibraryInfo::location(QLibraryInfo::TranslationsPath));
     fonts::substituteMissing();
     QTextStream out(stdout);
     QTextStream err(stderr);

@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "core/tavrotypes.h"
+
+#include <QRect>
+#include <QString>
+#include <QVector>
+#include <array>
+
+/// Which sections of a date or a time stand where, and what stands between them.
+namespace sections {
+
+/// Places of year, month and day, or of hour, minute and second, counted from the left; -1 for an absent section.
+using Places = std::array<int, 3>;
+
+/// All absent for a number that names no order.
+Places placesOf(DateOrderType order);
+Places placesOf(TimeOrderType order);
+
+/// One label of a row: the value of a section, or a separator with its text.
+struct Label
+{
+    bool isValue;
+    QString text; ///< of a separator
+};
+
+/// Labels of a row from the left: each value followed by its separator. A word belongs to its section wherever that
+/// stands, and follows the last one too; a mark stands between two sections only. Hidden separators are blanks of the
+/// same number. Empty for a separator type that the row does not have.
+QVector<Label> dateLabels(const Places &places, Datetime_Seperator_Type type, bool isShown);
+QVector<Label> timeLabels(const Places &places, Datetime_Seperator_Type type, bool isShown);
+
+/// Rectangle of an editor over that of an object: place and size rounded each on its own, halves upwards, and bounded
+/// to what a widget can have.
+QRect wholePixels(const QRectF &rect);
+
+} // namespace sections
