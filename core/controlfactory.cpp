@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "core/controlfactory.h"
 
+#include "barcode/tavrobarcode.h"
 #include "cells/tavrofinancialedit.h"
 #include "cells/tavroseperateedit.h"
 #include "entry/tavroedit.h"
@@ -23,6 +24,8 @@ TavroPrototype *ControlFactory::factory(ObjType kind)
         return new TavroSeperateEdit;
     case Obj_Label:
         return new TavroLabel;
+    case Obj_Barcode:
+        return new TavroBarcode;
     default:
         return nullptr;
     }
