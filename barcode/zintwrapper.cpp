@@ -36,7 +36,6 @@ void ZintWrapper::SymbolDeleter::operator()(zint_symbol *symbol) const
 
 ZintWrapper::ZintWrapper(QObject *parent)
     : QObject(parent)
-
     , m_lastResult(NotEncoded)
     , m_errorFont(QStringLiteral("Arial"))
     , m_isReencoding(true)
