@@ -23,6 +23,14 @@ bool movesTopEdge(HandleDirect direction)
     return direction == Handle_TopLeft || direction == Handle_Top || direction == Handle_TopRight;
 }
 
+// Whether an edge was dragged past the opposite one. One that is dropped exactly on it has not passed, and stays so
+// through the rounding of a point that is mapped into a turned object.
+bool hasPassed(double extent)
+{
+    constexpr double rounding = 1e-9;
+    return extent < -rounding;
+}
+
 } // namespace
 
 TavroBarcode::TavroBarcode(QGraphicsItem *parent)
@@ -64,26 +72,25 @@ void TavroBarcode::resize(HandleDirect direction, const QPointF &scenePoint)
 {
     if (direction < Handle_TopLeft || direction > Handle_Left)
         return;
-    const QRectF dragged = resizing::resized(boundingRect(), direction, mapFromScene(scenePoint));
+    const QRectF rect = boundingRect();
+    const QRectF dragged = resizing::resized(rect, direction, mapFromScene(scenePoint));
     const QSizeF actual = actualSzFromExpectSz(dragged.size());
-    // The symbol stands in the corner of the edges that stay: at the origin of the rectangle, or opposite to it.
-    const QPointF fromOrigin = adjustExpectRect(dragged, actual, true);
-    const QPointF fromOpposite = adjustExpectRect(dragged, actual, false);
-    const QPointF fixed(movesLeftEdge(direction) ? dragged.right() : dragged.left(),
-                        movesTopEdge(direction) ? dragged.bottom() : dragged.top());
-    const QPointF reached(movesLeftEdge(direction) ? fromOpposite.x() : fromOrigin.x(),
-                          movesTopEdge(direction) ? fromOpposite.y() : fromOrigin.y());
-    setBoundingRect(QRectF(fixed, reached).normalized());
+    // The symbol stands at the edges that stay, on the side to which the others were dragged.
+    const double width = hasPassed(dragged.width()) ? -actual.width() : actual.width();
+    const double height = hasPassed(dragged.height()) ? -actual.height() : actual.height();
+    const QPointF corner(movesLeftEdge(direction) ? rect.right() - width : rect.left(),
+                         movesTopEdge(direction) ? rect.bottom() - height : rect.top());
+    setBoundingRect(QRectF(corner, QSizeF(width, height)).normalized());
 }
 
 void TavroBarcode::designPaint(QPainter *painter)
 {
-    m_wrapper->paint(painter, boundingRect());
+    m_wrapper->paint(painter, boundingRect().normalized());
 }
 
 void TavroBarcode::inputPaint(QPainter *painter)
 {
-    m_wrapper->paint(painter, boundingRect());
+    m_wrapper->paint(painter, boundingRect().normalized());
 }
 
 void TavroBarcode::printPaint(QPainter *painter)
@@ -93,7 +100,7 @@ void TavroBarcode::printPaint(QPainter *painter)
     TavroPrototype::printPaint(painter);
     // The symbol on paper is the one that was fitted.
     m_wrapper->setIsReencoding(false);
-    m_wrapper->paint(painter, boundingRect());
+    m_wrapper->paint(painter, boundingRect().normalized());
     m_wrapper->setIsReencoding(true);
 }
 
