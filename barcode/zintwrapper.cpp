@@ -22,6 +22,8 @@ constexpr int TooLong = 5;
 
 constexpr int Utf8Eci = 26;
 
+constexpr int MessagePointSize = 12;
+
 double magnitude(double value)
 {
     return std::isfinite(value) ? std::abs(value) : 0;
@@ -44,7 +46,6 @@ ZintWrapper::ZintWrapper(QObject *parent)
 {
     setForegroundColor(Qt::black);
     setBackgroundColor(Qt::white);
-    m_errorFont.setPointSize(12);
     m_textFont.setPixelSize(15);
 }
 
@@ -196,6 +197,13 @@ QSizeF ZintWrapper::textSize() const
     return {metrics.horizontalAdvance(text()), metrics.height()};
 }
 
+QFont ZintWrapper::messageFont() const
+{
+    QFont font = m_errorFont;
+    font.setPointSize(MessagePointSize);
+    return font;
+}
+
 int ZintWrapper::columns() const
 {
     return m_symbol->width + (families::hasMargins(family()) ? 2 * families::Margin : 0);
@@ -295,6 +303,6 @@ QSizeF ZintWrapper::errorTextSize() const
 {
     if (m_lastResult < NotEncoded || !m_symbol)
         return {0, 0};
-    const QFontMetricsF metrics(m_errorFont);
+    const QFontMetricsF metrics(messageFont());
     return {metrics.horizontalAdvance(errorText()), metrics.height()};
 }

@@ -58,6 +58,7 @@ public:
     void setModuleWidth(double width) { m_moduleWidth = width; }
     double barHeight() const { return m_barHeight; }
     void setBarHeight(double height) { m_barHeight = height; }
+    /// Messages are drawn in its family and style, at 12 points.
     QFont errorFont() const { return m_errorFont; }
     void setErrorFont(const QFont &font) { m_errorFont = font; }
     QFont textFont() const { return m_textFont; }
@@ -131,6 +132,7 @@ private:
     QVector<families::Row> rows() const;
     QString text() const;
     QSizeF textSize() const;
+    QFont messageFont() const;
     /// Columns including the margins.
     int columns() const;
     /// Room below the bars for text and guards.

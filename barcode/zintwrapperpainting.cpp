@@ -152,8 +152,9 @@ void ZintWrapper::drawDigitGroups(QPainter *painter, const QPointF &firstColumn,
 
 void ZintWrapper::drawErrorText(QPainter *painter, const QString &text)
 {
-    const QFontMetricsF metrics(m_errorFont);
+    const QFont font = messageFont();
+    const QFontMetricsF metrics(font);
     painter->setPen(QPen(Qt::black, 1));
-    painter->setFont(m_errorFont);
+    painter->setFont(font);
     drawText(painter, {0, 0, metrics.horizontalAdvance(text), metrics.height()}, Qt::AlignLeft, text);
 }
