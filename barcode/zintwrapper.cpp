@@ -63,6 +63,17 @@ void ZintWrapper::setBackgroundColor(const QColor &color)
     m_backgroundBrush = QBrush(color);
 }
 
+// A copy that ends with a NUL, which libzint looks for: bytes that belong to somebody else need not.
+void ZintWrapper::setPrimary(const QByteArray &primary)
+{
+    m_primary = QByteArray(primary.constData(), primary.size());
+}
+
+void ZintWrapper::setData(const QByteArray &data)
+{
+    m_data = QByteArray(data.constData(), data.size());
+}
+
 bool ZintWrapper::encode()
 {
     if (!m_isReencoding && m_symbol)

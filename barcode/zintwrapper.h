@@ -65,9 +65,9 @@ public:
     void setTextFont(const QFont &font) { m_textFont = font; }
     /// Bytes of the linear component of a composite symbol, 127 at most.
     QByteArray primary() const { return m_primary; }
-    void setPrimary(const QByteArray &primary) { m_primary = primary; }
+    void setPrimary(const QByteArray &primary);
     QByteArray data() const { return m_data; }
-    void setData(const QByteArray &data) { m_data = data; }
+    void setData(const QByteArray &data);
     QColor foregroundColor() const { return m_foregroundColor; }
     void setForegroundColor(const QColor &color);
     QColor backgroundColor() const { return m_backgroundColor; }
