@@ -15,6 +15,10 @@ namespace {
 
 constexpr double SmallFont = 0.7;
 
+// Modules are that part of a module too large. Otherwise the edge between two dark ones, which comes out of two
+// different sums, may round to two different pixels and leave a light line.
+constexpr double Overlap = 1e-6;
+
 // Clipped text could not be checked against what was scanned.
 void drawText(QPainter *painter, const QRectF &rect, Qt::Alignment alignment, const QString &text)
 {
@@ -91,6 +95,7 @@ void ZintWrapper::drawSymbol(QPainter *painter)
 void ZintWrapper::drawRows(QPainter *painter, double left, const families::RetailLayout *layout)
 {
     const QVector<families::Row> all = rows();
+    const double overlap = Overlap * m_moduleWidth;
     double y = 0;
     for (int row = 0; row < all.size(); ++row) {
         const double height = rowHeight(all.at(row));
@@ -98,9 +103,9 @@ void ZintWrapper::drawRows(QPainter *painter, double left, const families::Retai
             if (!isDark(row, x))
                 continue;
             const bool isGuard = layout && all.at(row).isBar && layout->isGuard(x - firstBar(row));
-            painter->fillRect(
-                QRectF(x * m_moduleWidth + left, y, m_moduleWidth, height + (isGuard ? m_guardExtension : 0)),
-                m_foregroundBrush);
+            const QRectF module(x * m_moduleWidth + left, y, m_moduleWidth + overlap,
+                                height + overlap + (isGuard ? m_guardExtension : 0));
+            painter->fillRect(module, m_foregroundBrush);
         }
         y += height;
     }
