@@ -254,6 +254,8 @@ double ZintWrapper::fittedModuleWidth(const QSizeF &size) const
     case Family::Ean:
     case Family::UpcA:
     case Family::UpcE:
+    case Family::EanComposite:
+    case Family::UpcComposite:
         return m_isShowText ? std::max(size.width(), textSize().width()) / columns() : byWidth;
     case Family::Stacked:
         return std::max(byWidth, size.height() / (m_symbol->rows * m_stackedRowModules));
