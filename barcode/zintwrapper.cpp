@@ -258,7 +258,7 @@ double ZintWrapper::fittedModuleWidth(const QSizeF &size) const
     case Family::UpcComposite:
         return m_isShowText ? std::max(size.width(), textSize().width()) / columns() : byWidth;
     case Family::Stacked:
-        return std::max(byWidth, size.height() / (m_symbol->rows * m_stackedRowModules));
+        return std::max(byWidth, size.height() / m_symbol->rows / m_stackedRowModules);
     case Family::Matrix:
         return std::max(byWidth, size.height() / m_symbol->rows);
     default:
