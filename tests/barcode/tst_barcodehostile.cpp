@@ -141,8 +141,10 @@ void TestBarcodeHostile::versions()
     QCOMPARE(barcode.QRcodeVersion(), version);
     QCOMPARE(barcode.QRcodeErrCorrection(), level);
     barcode.setContentData(QStringLiteral("4711"));
-    // A symbol or a message.
-    QVERIFY(modulesOf(barcode).isEmpty() != wordsOf(barcode).isEmpty());
+    // The smallest symbol that holds the content.
+    QVERIFY2(barcodeprobes::isSame(barcodeprobes::symbolOf(barcode), barcode.boundingRect()),
+             barcodeprobes::inWords(barcodeprobes::symbolOf(barcode)));
+    QVERIFY(barcodeprobes::isSame(modulesOf(barcode).first().width(), 60.0 / 21));
     paintInAllModes(barcode);
 }
 

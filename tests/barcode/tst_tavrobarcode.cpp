@@ -159,9 +159,12 @@ void TestTavroBarcode::eanReadsBackAsItsVariant()
     B barcode;
     barcode.setSymbology(Ean8);
     barcode.setSymbology(QrCode);
+    QCOMPARE(barcode.symbology(), QrCode);
     barcode.setSymbology(13);
     QCOMPARE(barcode.symbology(), Ean8);
     barcode.setSymbology(Ean13);
+    barcode.setSymbology(QrCode);
+    QCOMPARE(barcode.symbology(), QrCode);
     barcode.setSymbology(13);
     QCOMPARE(barcode.symbology(), Ean13);
 }
