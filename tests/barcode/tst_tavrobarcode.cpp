@@ -77,6 +77,7 @@ private Q_SLOTS:
     void qrIsProportional();
     void readableTextOnPaper_data();
     void readableTextOnPaper();
+    void textWiderThanTheBars();
     void metaObject();
 };
 
@@ -292,6 +293,23 @@ void TestTavroBarcode::readableTextOnPaper()
     // The bars give way to the text.
     QCOMPARE(barcode.boundingRect(), QRectF(0, 0, 336, 100));
     QVERIFY(isSame(symbolOf(barcode).height(), (100 - textHeight(pixels))));
+}
+
+// The modules widen until the text stands below the bars, and the rectangle with them.
+void TestTavroBarcode::textWiderThanTheBars()
+{
+    B barcode;
+    barcode.setSymbology(Code128);
+    barcode.setBoundingRect(QRectF(0, 0, 336, 100));
+    barcode.setPhyBoundingRectWidth(5.334);
+    barcode.syncReadableTextPixSz();
+    const QFont font = barcodeprobes::textsOf(barcode).first().font;
+    QCOMPARE(font.pixelSize(), 200);
+    const double text = QFontMetricsF(font).horizontalAdvance(QStringLiteral("Barcode"));
+    QVERIFY(text > 336);
+    barcode.syncBarcodeRect(true);
+    QVERIFY(isSame(barcode.width(), text));
+    QVERIFY(isSame(symbolOf(barcode).width(), text));
 }
 
 void TestTavroBarcode::metaObject()
