@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "core/controlfactory.h"
 
+#include "barcode/tavrobarcode.h"
 #include "cells/tavrofinancialedit.h"
 #include "cells/tavroseperateedit.h"
 #include "datetime/tavrodatetime.h"
@@ -26,6 +27,8 @@ TavroPrototype *ControlFactory::factory(ObjType kind)
         return new TavroLabel;
     case Obj_Datetime:
         return new TavroDatetime;
+    case Obj_Barcode:
+        return new TavroBarcode;
     default:
         return nullptr;
     }
