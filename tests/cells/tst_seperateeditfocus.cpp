@@ -65,6 +65,7 @@ private Q_SLOTS:
     void deletedWhileItBlinks();
     void repaint_data();
     void repaint();
+    void repaintOfCharacters();
 };
 
 void TestSeperateEditFocus::blinkTimer()
@@ -269,6 +270,10 @@ void TestSeperateEditFocus::repaint_data()
     row("unit words", [](CellView &, Edit *edit) { edit->setIsDrawMonetaryUnit(false); });
     row("marks", [](CellView &, Edit *edit) { edit->setIsPrefixAll(true); });
     row("mark", [](CellView &, Edit *edit) { edit->setPrefixMode(Prefix_Zero); });
+    row("mode beyond the modes", [](CellView &, Edit *edit) { edit->setSeperateMode(static_cast<SeperateMode>(4)); });
+    row("amount in the cells", [](CellView &, Edit *edit) { edit->strToList(QStringLiteral("5")); });
+    row("zeros at the end", [](CellView &, Edit *edit) { edit->fillZeroToTrail(); });
+    row("no zeros in front", [](CellView &, Edit *edit) { edit->removePrefixZero(); });
     row("content spread again", [](CellView &, Edit *edit) { edit->syncDigitsList(); });
     row("cells emptied", [](CellView &, Edit *edit) { edit->resetEditable(); });
     row("cursor", [](CellView &, Edit *edit) { edit->moveCursorTo(1); });
@@ -295,6 +300,21 @@ void TestSeperateEditFocus::repaint()
     QCoreApplication::processEvents();
     memory.forget();
     change(form, edit);
+    QTRY_VERIFY(memory.covers(place));
+}
+
+void TestSeperateEditFocus::repaintOfCharacters()
+{
+    CellView form;
+    QVERIFY(form.isActive());
+    auto *edit = form.add<Edit>(QRectF(20, 20, 300, 40));
+    edit->setSeperateMode(Sep_Chars6);
+    PaintMemory memory(form.view().viewport());
+    const QRect place = form.view().mapFromScene(edit->boundingRect()).boundingRect();
+    QTRY_VERIFY(memory.covers(place));
+    QCoreApplication::processEvents();
+    memory.forget();
+    edit->strToList(QStringLiteral("5"));
     QTRY_VERIFY(memory.covers(place));
 }
 
