@@ -174,6 +174,7 @@ void TestFinancialEditPainting::frame_data()
                                  << QVector<QLineF>{
                                         {10, 30, 250, 30}, {10, 20, 10, 80}, {90, 20, 90, 80}, {170, 20, 170, 80}};
     QTest::newRow("one cell") << Grid << 1 << QVector<QLineF>{{10, 30, 250, 30}, {10, 20, 10, 80}};
+    QTest::newRow("no cell") << Grid << 0 << QVector<QLineF>();
     QTest::newRow("broken pixels") << QRectF(0, 0, 25, 60) << 2
                                    << QVector<QLineF>{{0, 10, 25, 10}, {0, 0, 0, 60}, {12.5, 0, 12.5, 60}};
     QTest::newRow("to the left") << QRectF(250, 20, -240, 60) << 2

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
+#include "barcode/tavrobarcode.h"
 #include "cells/tavrofinancialedit.h"
 #include "cells/tavroseperateedit.h"
 #include "core/controlfactory.h"
+#include "datetime/tavrodatetime.h"
 #include "entry/tavroedit.h"
 #include "entry/tavrolabel.h"
 #include "graphic/tavroline.h"
@@ -43,6 +45,8 @@ void TestControlFactory::kinds_data()
     row(4, TavroFinancialEdit::staticMetaObject, true);
     row(5, TavroSeperateEdit::staticMetaObject, true);
     row(7, TavroLabel::staticMetaObject, true);
+    row(9, TavroDatetime::staticMetaObject, false);
+    row(11, TavroBarcode::staticMetaObject, true);
 }
 
 void TestControlFactory::kinds()
@@ -75,9 +79,7 @@ void TestControlFactory::noKinds_data()
     // Named, but without a class yet.
     QTest::newRow("check box") << 6;
     QTest::newRow("combo box") << 8;
-    QTest::newRow("date and time") << 9;
     QTest::newRow("picture") << 10;
-    QTest::newRow("barcode") << 11;
     QTest::newRow("table") << 12;
 }
 
