@@ -2,6 +2,7 @@
 #include "desk/catalogue.h"
 
 #include "desk/cellsettings.h"
+#include "desk/datetimesettings.h"
 #include "desk/entrysettings.h"
 #include "desk/graphicsettings.h"
 
@@ -23,6 +24,7 @@ const QVector<Kind> &kinds()
         {QStringLiteral("label"), Obj_Label, entrysettings::ofLabels()},
         {QStringLiteral("separatedEdit"), Obj_SeperateEdit, cellsettings::ofSeparatedEdits()},
         {QStringLiteral("financialEdit"), Obj_FinancialEdit, cellsettings::ofFinancialEdits()},
+        {QStringLiteral("datetime"), Obj_Datetime, datetimesettings::ofDatetimes()},
     };
     return all;
 }

@@ -3,7 +3,9 @@
 
 #include "cells/tavrofinancialedit.h"
 #include "cells/tavroseperateedit.h"
+#include "datetime/tavrodatetime.h"
 #include "desk/cellchecking.h"
+#include "desk/datetimechecking.h"
 #include "desk/form.h"
 #include "desk/messages.h"
 #include "desk/printing.h"
@@ -47,6 +49,8 @@ QString problemOf(TavroPrototype *object)
         return cellchecking::problemOf(*row);
     if (const auto *grid = qobject_cast<TavroFinancialEdit *>(object))
         return cellchecking::problemOf(*grid);
+    if (auto *date = qobject_cast<TavroDatetime *>(object))
+        return datetimechecking::problemOf(*date);
     return {};
 }
 

@@ -2,6 +2,8 @@
 #include "desk/form.h"
 
 #include "core/tavrotext.h"
+#include "datetime/tavrodatetime.h"
+#include "desk/datetimesettings.h"
 #include "desk/formwords.h"
 #include "graphic/tavroline.h"
 #include "graphic/tavrorect.h"
@@ -21,6 +23,8 @@ void Form::addObject(TavroPrototype *object, const QRectF &millimetres, const QJ
 {
     m_scene.addItem(object);
     setGeometry(object, millimetres);
+    if (auto *date = qobject_cast<TavroDatetime *>(object))
+        datetimesettings::start(*date);
     entries.push_back({object, unknownSettings});
 }
 

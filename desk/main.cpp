@@ -11,11 +11,17 @@
 
 namespace {
 
-// A daemon or a container has no runtime directory. The commands do not need one, and one line about it before every
-// report would hide the report.
+// A daemon or a container has no runtime directory, and a platform without windows does not pass size hints on to them.
+// The commands need neither, and a line about it before every report would hide the report.
+bool isOfThePlatform(const QString &text)
+{
+    return text.startsWith(QLatin1String("QStandardPaths: XDG_RUNTIME_DIR not set")) ||
+           text == QLatin1String("This plugin does not support propagateSizeHints()");
+}
+
 void writeMessage(QtMsgType type, const QMessageLogContext &context, const QString &text)
 {
-    if (!text.startsWith(QLatin1String("QStandardPaths: XDG_RUNTIME_DIR not set")))
+    if (!isOfThePlatform(text))
         fprintf(stderr, "%s\n", qPrintable(qFormatLogMessage(type, context, text)));
 }
 

@@ -2,6 +2,8 @@
 #include "desk/record.h"
 
 #include "core/tavrotext.h"
+#include "datetime/tavrodatetime.h"
+#include "desk/datetimevalues.h"
 #include "desk/form.h"
 #include "desk/jsonfile.h"
 
@@ -40,6 +42,21 @@ QHash<QString, TavroPrototype *> objectsOf(const Form &form)
     return objects;
 }
 
+// Dates and times are read here: what an object of the library cannot read is gone without a word.
+void fillObject(TavroPrototype *object, const QVariant &content)
+{
+    if (auto *date = qobject_cast<TavroDatetime *>(object)) {
+        datetimevalues::setContent(*date, content.toString());
+        return;
+    }
+    // In a batch most values are those of the record before: the date, the account, the purpose.
+    if (object->contentData() == content)
+        return;
+    object->setContentData(content);
+    if (auto *text = qobject_cast<TavroText *>(object))
+        text->adjustTextStyle();
+}
+
 } // namespace
 
 Result fillFromJson(Form *form, const QJsonObject &json, const QString &fileName)
@@ -59,14 +76,8 @@ Result fillFromJson(Form *form, const QJsonObject &json, const QString &fileName
         else if (!objects.contains(it.key()))
             result.unknownIds.append(it.key());
     }
-    for (const auto &[object, content] : qAsConst(values)) {
-        // In a batch most values are those of the record before: the date, the account, the purpose.
-        if (object->contentData() == content)
-            continue;
-        object->setContentData(content);
-        if (auto *text = qobject_cast<TavroText *>(object))
-            text->adjustTextStyle();
-    }
+    for (const auto &[object, content] : qAsConst(values))
+        fillObject(object, content);
     return result;
 }
 

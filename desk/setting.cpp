@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "desk/setting.h"
 
+#include <QJsonArray>
 #include <QStringList>
 #include <algorithm>
 #include <cmath>
@@ -16,6 +17,26 @@ QVariant wholeFrom(const QJsonValue &json, double minimum, double maximum)
 {
     const double number = json.toDouble();
     return json.isDouble() && isWhole(number) && number >= minimum && number <= maximum ? json.toInt() : QVariant();
+}
+
+QVariant numberFrom(const QJsonValue &json, double minimum, double maximum)
+{
+    const double number = json.toDouble();
+    return json.isDouble() && number >= minimum && number <= maximum ? number : QVariant();
+}
+
+QVariant numbersFrom(const QJsonValue &json, double minimum, double maximum)
+{
+    if (!json.isArray())
+        return {};
+    QVariantList numbers;
+    const QJsonArray array = json.toArray();
+    for (const QJsonValue &entry : array) {
+        numbers.append(numberFrom(entry, minimum, maximum));
+        if (!numbers.last().isValid())
+            return {};
+    }
+    return numbers;
 }
 
 bool isHexDigit(QChar character)
@@ -67,6 +88,8 @@ QString rangeInWords(const Setting &setting)
             .arg(setting.maximum, 0, 'f', 0);
     case Setting::Type::Number:
         return QStringLiteral("a number from %1 to %2").arg(setting.minimum).arg(setting.maximum);
+    case Setting::Type::Numbers:
+        return QStringLiteral("a list of numbers from %1 to %2").arg(setting.minimum).arg(setting.maximum);
     case Setting::Type::Text:
         return QStringLiteral("a text");
     case Setting::Type::Color:
@@ -93,14 +116,15 @@ QString rangeInWords(const Setting &setting)
 
 QVariant Setting::fromJson(const QJsonValue &json) const
 {
-    const double number = json.toDouble();
     switch (type) {
     case Type::Flag:
         return json.isBool() ? json.toVariant() : QVariant();
     case Type::Integer:
         return wholeFrom(json, minimum, maximum);
     case Type::Number:
-        return json.isDouble() && number >= minimum && number <= maximum ? number : QVariant();
+        return numberFrom(json, minimum, maximum);
+    case Type::Numbers:
+        return numbersFrom(json, minimum, maximum);
     case Type::Text:
         return json.isString() ? json.toVariant() : QVariant();
     case Type::Color:
@@ -122,6 +146,8 @@ QJsonValue Setting::toJson(const QVariant &value) const
         return value.toInt();
     case Type::Number:
         return value.toDouble();
+    case Type::Numbers:
+        return QJsonArray::fromVariantList(value.toList());
     case Type::Text:
         return value.toString();
     case Type::Color:

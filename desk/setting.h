@@ -20,6 +20,7 @@ struct Setting
         Text,
         Color,      ///< "#rrggbb"
         AlphaColor, ///< "#aarrggbb"
+        Numbers,    ///< a list, which may be empty
         Choice      ///< a name, or a number for values without a name
     };
 
@@ -42,7 +43,7 @@ struct Setting
     /// `scale` is the form's, in pixels per millimetre.
     std::function<void(TavroPrototype &, const QVariant &, double scale)> set;
     QVector<Choice> choices; ///< of a Choice
-    /// Of an Integer, a Number, and the numbers that a Choice takes.
+    /// Of an Integer, a Number, each of the Numbers, and the numbers that a Choice takes.
     double minimum = 0;
     double maximum = 0;
     QString condition; ///< what the object asks of a value beyond that; it keeps its own where the condition fails
