@@ -21,16 +21,22 @@ QString otherText(const QString &key)
         return QStringLiteral("DejaVu Sans");
     if (key == QLatin1String("numberPattern"))
         return QStringLiteral("0.0");
+    if (key == QLatin1String("customPattern"))
+        return QStringLiteral("yyyy/M/d");
     if (key == QLatin1String("pattern"))
         return QStringLiteral("[0-9.]+");
-    if (key == QLatin1String("preset") || key == QLatin1String("text"))
-        return QStringLiteral("12.5");
     return QStringLiteral("其他 %1").arg(key);
 }
 
 double otherNumber(const Setting &setting, double number)
 {
     return number + 1 <= setting.maximum ? number + 1 : number - 1;
+}
+
+// A text that the kind takes as its preset.
+QString otherPreset(ObjType kind)
+{
+    return kind == Obj_Datetime ? QStringLiteral("2022-01-05T08:05:09") : QStringLiteral("12.5");
 }
 
 QJsonValue otherThan(const Setting &setting, const QVariant &value)
@@ -42,6 +48,9 @@ QJsonValue otherThan(const Setting &setting, const QVariant &value)
         return otherNumber(setting, value.toInt());
     case Setting::Type::Number:
         return otherNumber(setting, value.toDouble()) + 0.125;
+    case Setting::Type::Numbers:
+        // The sections of a new date, and what stands behind each of them.
+        return QJsonArray{10, 1.5, 5.25, 1.5, 5.25, 1.5};
     case Setting::Type::Text:
         return otherText(setting.key);
     case Setting::Type::Color:
@@ -103,6 +112,11 @@ QJsonObject fullFile()
         QJsonObject settings;
         for (const Setting &setting : catalogue::settingsOf(kind))
             settings.insert(setting.key, otherValue(kind, setting.key));
+        if (kind == Obj_Datetime) {
+            // The marks between sections, of which the last has none behind it.
+            settings.insert(QStringLiteral("separator"), QStringLiteral("slash"));
+            settings.insert(QStringLiteral("sections"), QJsonArray{10, 0.5, 5.25, 0.5, 5.25});
+        }
         settings.insert(QStringLiteral("id"), name + QStringLiteral(" 1"));
         const double top = 5 + 5 * objects.size();
         objects.append(object(name.toLatin1().constData(), {10.5, top, 60.25, 4.5}, settings));
@@ -118,6 +132,8 @@ QJsonValue otherValue(ObjType kind, const QString &key)
 {
     const std::unique_ptr<TavroPrototype> fresh(ControlFactory::factory(kind));
     for (const Setting &setting : catalogue::settingsOf(kind)) {
+        if (key == setting.key && (key == QLatin1String("preset") || key == QLatin1String("text")))
+            return otherPreset(kind);
         if (setting.key == key)
             return otherThan(setting, setting.get(*fresh));
     }

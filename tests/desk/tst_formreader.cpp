@@ -128,7 +128,7 @@ void FormReaderTest::geometry_data()
 void FormReaderTest::geometry()
 {
     QFETCH(QRectF, millimetres);
-    for (const char *kind : {"line", "rect", "edit", "label", "separatedEdit", "financialEdit"}) {
+    for (const char *kind : {"line", "rect", "edit", "label", "separatedEdit", "financialEdit", "datetime"}) {
         const std::unique_ptr<Form> form = deskforms::formWith({deskforms::object(kind, millimetres)});
         QVERIFY(form);
         const TavroPrototype &object = *form->entries.front().object;
@@ -376,10 +376,10 @@ void FormReaderTest::refusesObject_data()
     };
     add("no kind", R"({"rect":[0,0,1,1]})",
         "objects[1].kind: expected a kind such as line, rect, edit, label, separatedEdit, financialEdit, "
-        "found nothing");
+        "datetime, found nothing");
     add("kind as a number", R"({"kind":3,"rect":[0,0,1,1]})",
         "objects[1].kind: expected a kind such as line, rect, edit, label, separatedEdit, financialEdit, "
-        "found 3");
+        "datetime, found 3");
     add("no rectangle", R"({"kind":"line"})",
         "objects[1].rect: expected an array of four numbers in millimetres (x, y, width, height), found nothing");
     add("five numbers", R"({"kind":"line","rect":[1,2,3,4,5]})",
@@ -424,6 +424,34 @@ void FormReaderTest::refusesObject_data()
         "objects[1].separatorWidth: expected a number from 0 to 100, found -0.1");
     add("unknown currency", R"({"kind":"financialEdit","rect":[1,2,3,4],"currency":"euro"})",
         "objects[1].currency: expected one of none, yuan, dollar, pound, cent, usd, or a whole number, found \"euro\"");
+    add("too few sections", R"({"kind":"datetime","rect":[1,2,40,4],"sections":[10,2,10,2,10]})",
+        "objects[1].sections: expected a list of numbers from 0 to 10000, one for each section and separator, "
+        "found an array of 5");
+    add("too many sections of a time", R"({"kind":"datetime","rect":[1,2,40,4],"sections":[9,2,9,2,9,2],"format":"time",
+        "order":"hm"})",
+        "objects[1].sections: expected a list of numbers from 0 to 10000, one for each section and separator, "
+        "found an array of 6");
+    add("sections of a pattern", R"({"kind":"datetime","rect":[1,2,40,4],"sections":[40],"format":"custom"})",
+        "objects[1].sections: expected a list of numbers from 0 to 10000, one for each section and separator, "
+        "found an array of 1");
+    add("negative section", R"({"kind":"datetime","rect":[1,2,40,4],"sections":[10,2,-1,2,10,2]})",
+        "objects[1].sections: expected a list of numbers from 0 to 10000, one for each section and separator, "
+        "found an array of 6");
+    add("section as a text", R"({"kind":"datetime","rect":[1,2,40,4],"sections":"10"})",
+        "objects[1].sections: expected a list of numbers from 0 to 10000, one for each section and separator, "
+        "found \"10\"");
+    add("format of a date without a name", R"({"kind":"datetime","rect":[1,2,40,4],"format":7})",
+        "objects[1].format: expected one of capitalFormal, capital, numeral, arabicPadded, arabic, time, custom, or a "
+        "whole number from 0 to 6, found 7");
+    add("order of times for a date", R"({"kind":"datetime","rect":[1,2,40,4],"order":"hm"})",
+        "objects[1].order: expected one of ymd, dmy, ydm, ym, md, my, dm, y, hms, hm, or a whole number from -2 to 7, "
+        "that the format can have, found \"hm\"");
+    add("order of dates for a time", R"({"kind":"datetime","rect":[1,2,40,4],"order":"ymd","format":"time"})",
+        "objects[1].order: expected one of ymd, dmy, ydm, ym, md, my, dm, y, hms, hm, or a whole number from -2 to 7, "
+        "that the format can have, found \"ymd\"");
+    add("preset that is no date", R"({"kind":"datetime","rect":[1,2,40,4],"preset":"2022-02-30"})",
+        "objects[1].preset: expected a text, a date and time such as 2022-01-05, 2022-01-05T08:05:09 or 08:05:09, "
+        "found \"2022-02-30\"");
     add("text of two lines", R"({"kind":"line","rect":[1,2,3,4],"print":"a\nb"})",
         "objects[1].print: expected true or false, found \"a\\nb\"");
     add("same identifier", R"({"kind":"edit","rect":[1,2,3,4],"id":"first"})",

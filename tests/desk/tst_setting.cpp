@@ -57,6 +57,8 @@ void SettingTest::fromJson_data()
     add("number", Type::Number, "0.125", 0.125);
     add("least number", Type::Number, "-2", -2.0);
     add("largest number", Type::Number, "5", 5.0);
+    add("numbers", Type::Numbers, "[-2, 0.125, 5]", QVariantList{-2.0, 0.125, 5.0});
+    add("no numbers", Type::Numbers, "[]", QVariantList());
     add("text", Type::Text, "\"金额\"", QStringLiteral("金额"));
     add("empty text", Type::Text, "\"\"", QString());
     add("colour", Type::Color, "\"#1ba39c\"", 0x1BA39Cu);
@@ -108,6 +110,14 @@ void SettingTest::fromJsonRefuses_data()
     add("number below", Type::Number, "-2.001");
     add("number above", Type::Number, "5.001");
     add("number beyond all", Type::Number, "1e308");
+    add("numbers as a number", Type::Numbers, "1");
+    add("numbers as a text", Type::Numbers, "\"1\"");
+    add("numbers as an object", Type::Numbers, "{}");
+    add("numbers with a text", Type::Numbers, "[1,\"2\"]");
+    add("numbers with a list", Type::Numbers, "[1,[2]]");
+    add("numbers with nothing between", Type::Numbers, "[1,null,2]");
+    add("one of the numbers below", Type::Numbers, "[1,-2.001]");
+    add("one of the numbers above", Type::Numbers, "[5.001,1]");
     add("colour as a number", Type::Color, "1810332");
     add("colour without #", Type::Color, "\"1ba39c\"");
     add("colour with another sign", Type::Color, "\"x1ba39c\"");
@@ -150,6 +160,8 @@ void SettingTest::toJson_data()
     add("integer", Type::Integer, -7, "-7");
     add("number", Type::Number, 0.1, "0.1");
     add("whole number", Type::Number, 3.0, "3");
+    add("numbers", Type::Numbers, QVariantList{0.1, 3.0}, "[0.1, 3]");
+    add("no numbers", Type::Numbers, QVariantList(), "[]");
     add("text", Type::Text, QStringLiteral("金额"), "\"金额\"");
     add("no text", Type::Text, QVariant(), "\"\"");
     add("colour", Type::Color, 0x1BA39Cu, "\"#1ba39c\"");
@@ -176,6 +188,7 @@ void SettingTest::expectation_data()
     QTest::newRow("flag") << Type::Flag << QStringLiteral("true or false");
     QTest::newRow("integer") << Type::Integer << QStringLiteral("a whole number from -2 to 5");
     QTest::newRow("number") << Type::Number << QStringLiteral("a number from -2 to 5");
+    QTest::newRow("numbers") << Type::Numbers << QStringLiteral("a list of numbers from -2 to 5");
     QTest::newRow("text") << Type::Text << QStringLiteral("a text");
     QTest::newRow("colour") << Type::Color << QStringLiteral("a colour such as \"#1ba39c\"");
     QTest::newRow("alpha colour") << Type::AlphaColor
