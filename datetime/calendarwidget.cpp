@@ -8,6 +8,7 @@
 #include <QKeyEvent>
 #include <QPushButton>
 #include <QTableView>
+#include <QTextCharFormat>
 #include <QTimeEdit>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -37,12 +38,13 @@ QStringList shortDayNames(const QLocale &locale)
     return names;
 }
 
-bool fits(const QFont &font, const QStringList &names, const QSize &cell)
+/// Largest font, from the size of `font` downwards, whose measures fit.
+template <typename Condition>
+QFont shrunk(QFont font, Condition fits)
 {
-    const QFontMetrics metrics(font);
-    return metrics.height() <= cell.height() && std::all_of(names.cbegin(), names.cend(), [&](const QString &name) {
-               return metrics.horizontalAdvance(name) <= cell.width();
-           });
+    for (int size = QFontInfo(font).pixelSize(); size > 1 && !fits(QFontMetrics(font)); --size)
+        font.setPixelSize(size - 1);
+    return font;
 }
 
 bool isEnter(const QKeyEvent &event)
@@ -140,14 +142,21 @@ void CalendarWidget::fitWeeks()
         return;
     constexpr int daysOfWeek = 7;
     constexpr int rows = 1 + 6; // names of the days, weeks
-    const int margin = weeks->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, weeks) + 1;
     const QSize area = weeks->viewport()->size();
-    const QSize cell(area.width() / daysOfWeek - 2 * margin, area.height() / rows);
-    const QStringList names = shortDayNames(m_calendar->locale());
-    QFont font = m_calendar->font();
-    for (int size = QFontInfo(font).pixelSize(); size > 1 && !fits(font, names, cell); --size)
-        font.setPixelSize(size - 1);
+    const QFont font = shrunk(m_calendar->font(),
+                              [&](const QFontMetrics &metrics) { return metrics.height() <= area.height() / rows; });
     weeks->setFont(font);
+
+    // Some languages have long short names. They need not make the days small.
+    const int margin = weeks->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, weeks) + 1;
+    const int width = area.width() / daysOfWeek - 2 * margin;
+    const QStringList names = shortDayNames(m_calendar->locale());
+    QTextCharFormat format = m_calendar->headerTextFormat();
+    format.setFont(shrunk(font, [&](const QFontMetrics &metrics) {
+        return std::all_of(names.cbegin(), names.cend(),
+                           [&](const QString &name) { return metrics.horizontalAdvance(name) <= width; });
+    }));
+    m_calendar->setHeaderTextFormat(format);
 }
 
 void CalendarWidget::showEvent(QShowEvent *event)

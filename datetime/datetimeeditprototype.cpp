@@ -10,8 +10,8 @@
 
 namespace {
 
-/// Label that takes the place it is given. It does not measure its text to say what it would like: the row would have
-/// that done for all labels at each change of one.
+/// Label that takes the place it is given: a printed box may be narrower than the text, and lower. It does not measure
+/// its text to say what it would like: the row would have that done for all labels at each change of one.
 class SectionLabel : public QLabel
 {
 public:
@@ -144,12 +144,6 @@ void DateTimeEditPrototype::paintSections(QPainter *painter, const QRectF &rect)
     }
 }
 
-QSize DateTimeEditPrototype::minimumSizeHint() const
-{
-    // The form says how small the boxes are.
-    return {0, 0};
-}
-
 QSplitterHandle *DateTimeEditPrototype::createHandle()
 {
     return new Handle(this);
@@ -182,8 +176,6 @@ void DateTimeEditPrototype::buildLabels(const QVector<sections::Label> &labels)
         auto *widget = new SectionLabel(label.text);
         widget->setAlignment(Qt::AlignCenter);
         widget->setMargin(0);
-        // A printed box is narrower than the label would like to be, and lower.
-        widget->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
         setUpFont(widget, label.isValue);
         addWidget(widget);
     }

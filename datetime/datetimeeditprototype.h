@@ -47,8 +47,6 @@ public:
     /// hidden, they only take their room.
     void paintSections(QPainter *painter, const QRectF &rect);
 
-    QSize minimumSizeHint() const override;
-
 protected:
     QSplitterHandle *createHandle() override;
     /// Calls what replaces labels: at once, or as soon as the event loop turns again where a handle is just being

@@ -73,6 +73,7 @@ private Q_SLOTS:
     void slotsByName();
     void enterAccepts_data();
     void enterAccepts();
+    void heldEnterClosesOnce();
     void escapeRejects_data();
     void escapeRejects();
     void typedDateIsTaken();
@@ -211,12 +212,26 @@ void CalendarPickingTest::enterAccepts()
         widget->setFocus();
         QCOMPARE(QApplication::focusWidget(), widget);
         user.press(key);
-        if (dialog.isVisible())
-            user.press(key); // held down
     });
     QCOMPARE(answer, 1);
     QCOMPARE(finished.count(), 1);
     QCOMPARE(dialog.currentDateTime(), value);
+}
+
+// The second press is there before the first has closed the calendar.
+void CalendarPickingTest::heldEnterClosesOnce()
+{
+    CalendarWidget dialog;
+    CalendarUser user(dialog);
+    QSignalSpy finished(&dialog, &QDialog::finished);
+    const int answer = user.open(value, [&] {
+        for (int i = 0; i < 2; ++i) {
+            QKeyEvent press(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+            QCoreApplication::sendEvent(user.weeks(), &press);
+        }
+    });
+    QCOMPARE(answer, 1);
+    QCOMPARE(finished.count(), 1);
 }
 
 void CalendarPickingTest::escapeRejects_data()
@@ -250,6 +265,8 @@ void CalendarPickingTest::typedDateIsTaken()
 {
     CalendarWidget dialog;
     CalendarUser user(dialog);
+    QDateTime accepted;
+    connect(&dialog, &QDialog::accepted, &dialog, [&] { accepted = dialog.currentDateTime(); });
     const int answer = user.open(value, [&] {
         user.press(Qt::Key_0);
         user.press(Qt::Key_5);
@@ -260,6 +277,7 @@ void CalendarPickingTest::typedDateIsTaken()
     QVERIFY(dialog.currentDateTime().date() != value.date());
     QCOMPARE(dialog.currentDateTime().date().day(), 5);
     QCOMPARE(dialog.currentDateTime().time(), value.time());
+    QCOMPARE(accepted, dialog.currentDateTime());
 }
 
 void CalendarPickingTest::escapeDropsATypedDate()

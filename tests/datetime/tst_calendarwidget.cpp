@@ -3,6 +3,7 @@
 #include "tests/support/stricttest.h"
 
 #include <QGraphicsDropShadowEffect>
+#include <QTextCharFormat>
 #include <QVBoxLayout>
 
 class CalendarWidgetTest : public StrictTest
@@ -34,6 +35,7 @@ private Q_SLOTS:
     void allWeeksAreSeen_data();
     void allWeeksAreSeen();
     void fontOfTheWeeks();
+    void longNamesOfDays();
     void nothingOverlaps_data();
     void nothingOverlaps();
 
@@ -272,6 +274,7 @@ void CalendarWidgetTest::fromTopToBottom()
     const QRect area = dialog.layout()->contentsRect();
     QCOMPARE(closing.right(), area.right());
     QCOMPARE(confirming.right(), area.right());
+    QCOMPARE(confirming.width(), user.confirmButton()->sizeHint().width());
     QCOMPARE(calendar.left() - dialog.rect().left(), dialog.rect().right() - calendar.right());
 }
 
@@ -321,10 +324,11 @@ void CalendarWidgetTest::allWeeksAreSeen()
         width += weeks->columnWidth(column);
     QCOMPARE(width, weeks->viewport()->width());
 
-    const QFontMetrics metrics(weeks->font());
-    QVERIFY(metrics.height() <= weeks->rowHeight(6));
+    QVERIFY(QFontMetrics(weeks->font()).height() <= weeks->rowHeight(6));
+    const QFontMetrics names(user.calendar()->headerTextFormat().font());
+    QVERIFY(names.height() <= weeks->rowHeight(0));
     for (int day = Qt::Monday; day <= Qt::Sunday; ++day)
-        QVERIFY(metrics.horizontalAdvance(QLocale().dayName(day, QLocale::ShortFormat)) < width / 7);
+        QVERIFY(names.horizontalAdvance(QLocale().dayName(day, QLocale::ShortFormat)) < width / 7);
 }
 
 // Only what would not fit is made smaller.
@@ -334,6 +338,7 @@ void CalendarWidgetTest::fontOfTheWeeks()
     CalendarWidget small;
     small.show();
     QCOMPARE(CalendarUser(small).weeks()->font(), CalendarUser(small).calendar()->font());
+    QCOMPARE(CalendarUser(small).calendar()->headerTextFormat().font(), CalendarUser(small).calendar()->font());
 
     QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), 20));
     CalendarWidget large;
@@ -341,6 +346,20 @@ void CalendarWidgetTest::fontOfTheWeeks()
     QVERIFY(CalendarUser(large).weeks()->fontInfo().pixelSize() <
             CalendarUser(large).calendar()->fontInfo().pixelSize());
     QCOMPARE(CalendarUser(large).weeks()->font().hintingPreference(), QFont::PreferVerticalHinting);
+}
+
+// Monday is "segunda", wider than its column.
+void CalendarWidgetTest::longNamesOfDays()
+{
+    QLocale::setDefault(QLocale(QLocale::Portuguese, QLocale::Portugal));
+    QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), 9));
+    CalendarWidget dialog;
+    dialog.show();
+    const CalendarUser user(dialog);
+    const QFontMetrics names(user.calendar()->headerTextFormat().font());
+    QVERIFY(names.horizontalAdvance(QLocale().dayName(Qt::Monday, QLocale::ShortFormat)) <
+            user.weeks()->columnWidth(1));
+    QCOMPARE(user.weeks()->font(), user.calendar()->font());
 }
 
 void CalendarWidgetTest::nothingOverlaps_data()

@@ -165,6 +165,8 @@ void TestTavroDatetimeContent::bothEditorsFollowTheRectangle_data()
     QTest::newRow("size apart from the place") << QRectF(0.6, 0.6, 300.6, 30.6) << QRect(1, 1, 301, 31);
     QTest::newRow("negative place") << QRectF(-10.5, -20.51, 300, 30) << QRect(-10, -21, 300, 30);
     QTest::newRow("low") << QRectF(0, 0, 300, 3) << QRect(0, 0, 300, 3);
+    QTest::newRow("one pixel high") << QRectF(0, 0, 300, 1) << QRect(0, 0, 300, 1);
+    QTest::newRow("no height") << QRectF(0, 0, 300, 0) << QRect(0, 0, 300, 0);
 }
 
 void TestTavroDatetimeContent::bothEditorsFollowTheRectangle()

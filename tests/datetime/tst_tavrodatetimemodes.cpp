@@ -50,6 +50,7 @@ private Q_SLOTS:
     void newObjectsShowNoEditor();
     void patternsLeaveTheProxyAsItWas_data();
     void patternsLeaveTheProxyAsItWas();
+    void printModeHidesEachOnItsOwn();
     void handlesPerMode_data();
     void handlesPerMode();
     void handlesOfLabelsBuiltInAMode();
@@ -161,6 +162,23 @@ void TestTavroDatetimeModes::patternsLeaveTheProxyAsItWas()
         object.setPaintMode(static_cast<Paint_Mode>(mode));
         QCOMPARE(object.widgetPrxy()->isVisible(), visible && leaves);
     }
+}
+
+// A proxy and its editor come and go together, so each is looked at without the other.
+void TestTavroDatetimeModes::printModeHidesEachOnItsOwn()
+{
+    TavroDatetime object;
+    const Editors both(object);
+    object.widgetPrxy()->setWidget(nullptr);
+    object.widgetPrxy()->show();
+    for (DateTimeEditPrototype *editor : QVector<DateTimeEditPrototype *>{both.dates, both.times}) {
+        editor->setAttribute(Qt::WA_DontShowOnScreen);
+        editor->show();
+    }
+    object.setPaintMode(Paint_Print);
+    QVERIFY(both.dates->isHidden());
+    QVERIFY(both.times->isHidden());
+    QVERIFY(!object.widgetPrxy()->isVisible());
 }
 
 void TestTavroDatetimeModes::handlesPerMode_data()
