@@ -6,6 +6,7 @@
 #include "tests/support/recordingpaintengine.h"
 
 #include <QTest>
+#include <cmath>
 
 /// A content for each symbology that is drawn.
 namespace barcodesamples {
@@ -144,6 +145,19 @@ inline QVector<QRectF> patternOf(const Sample &sample)
     ZintWrapper barcode;
     apply(&barcode, sample);
     return patternOf(barcode);
+}
+
+/// Within what is added to modules and what sums lose.
+inline bool isNear(const QRectF &a, const QRectF &b)
+{
+    constexpr double near = 1e-4;
+    return std::abs(a.x() - b.x()) < near && std::abs(a.y() - b.y()) < near && std::abs(a.width() - b.width()) < near &&
+           std::abs(a.height() - b.height()) < near;
+}
+
+inline QString described(const QRectF &rect)
+{
+    return QStringLiteral("%1, %2, %3 x %4").arg(rect.x()).arg(rect.y()).arg(rect.width()).arg(rect.height());
 }
 
 } // namespace barcodesamples

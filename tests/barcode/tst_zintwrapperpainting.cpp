@@ -1,14 +1,15 @@
 // SPDX-License-Identifier: MIT
-// Background, modules and messages, command by command; readable texts have a test of their own.
+// Background and modules, command by command.
 #include "barcode/zintwrapper.h"
 #include "tests/barcode/barcodesamples.h"
 #include "tests/support/stricttest.h"
 
-#include <QFontMetricsF>
 #include <QSet>
 #include <QTest>
 #include <cmath>
 
+using barcodesamples::described;
+using barcodesamples::isNear;
 using barcodesamples::modulesOf;
 using barcodesamples::paintedBy;
 using barcodesamples::Sample;
@@ -142,18 +143,6 @@ private:
     double m_bar;
 };
 
-bool isNear(const QRectF &a, const QRectF &b)
-{
-    constexpr double near = 1e-4;
-    return std::abs(a.x() - b.x()) < near && std::abs(a.y() - b.y()) < near && std::abs(a.width() - b.width()) < near &&
-           std::abs(a.height() - b.height()) < near;
-}
-
-QString described(const QRectF &rect)
-{
-    return QStringLiteral("%1, %2, %3 x %4").arg(rect.x()).arg(rect.y()).arg(rect.width()).arg(rect.height());
-}
-
 void compareModules(const QVector<QRectF> &painted, const QVector<QRectF> &expected)
 {
     for (int i = 0; i < std::min(painted.size(), expected.size()); ++i) {
@@ -161,25 +150,6 @@ void compareModules(const QVector<QRectF> &painted, const QVector<QRectF> &expec
             QCOMPARE(described(painted.at(i)), described(expected.at(i)));
     }
     QCOMPARE(painted.size(), expected.size());
-}
-
-// The only text, and where it stands.
-void compareMessage(const QVector<PaintCommand> &commands, const QString &message)
-{
-    QFont font(QStringLiteral("Arial"));
-    font.setPointSize(12);
-    QCOMPARE(commands.size(), 2);
-    QCOMPARE(commands.at(0).kind, PaintCommand::Rect);
-    QCOMPARE(commands.at(1).kind, PaintCommand::Text);
-    QCOMPARE(commands.at(1).text, message);
-    QCOMPARE(commands.at(1).pen.color(), QColor(Qt::black));
-    QCOMPARE(commands.at(1).pen.widthF(), 1.0);
-    QCOMPARE(commands.at(1).font.family(), QStringLiteral("Arial"));
-    QCOMPARE(commands.at(1).font.pointSize(), 12);
-    QCOMPARE(commands.at(1).transform, QTransform::fromTranslate(Field.x(), Field.y()));
-    QVERIFY(isNear(commands.at(1).rect, {QPointF(0, 0), QSizeF(QFontMetricsF(font).horizontalAdvance(message),
-                                                               QFontMetricsF(font).height())}));
-    QVERIFY(!commands.at(1).hasClip);
 }
 
 ZintWrapper *linear(ZintWrapper *barcode)
@@ -211,16 +181,6 @@ private Q_SLOTS:
     void painterIsAsBefore();
     void worksUnderATransform();
     void sizesStayAsFitted();
-    void messageOfLibzint();
-    void messageInAnyFont();
-    void lengthsOfEan_data();
-    void lengthsOfEan();
-    void lengthsInEanComposites_data();
-    void lengthsInEanComposites();
-    void ean13WithItsCheckDigit();
-    void offsetOfBarsUnderAWideText();
-    void offsetStaysForMatrixCodes();
-    void offsetOfAddOns();
     void bandlessGuards();
 };
 
@@ -463,203 +423,6 @@ void ZintWrapperPaintingTest::sizesStayAsFitted()
     barcode.setData("1");
     const QVector<QRectF> modules = modulesOf(paintedBy(barcode, Field));
     QVERIFY(isNear(modules.at(0), {0, 0, module, bar}));
-}
-
-void ZintWrapperPaintingTest::messageOfLibzint()
-{
-    for (const int symbology : {13, 20, 34, 58, 57, 79, 130, 199}) {
-        ZintWrapper barcode;
-        barcode.setSymbology(symbology);
-        barcode.fitToSize(Field.size());
-        const QVector<PaintCommand> commands = paintedBy(barcode, Field);
-        QVERIFY(barcode.errorText().startsWith(QLatin1String("Error ")));
-        compareMessage(commands, barcode.errorText());
-    }
-}
-
-void ZintWrapperPaintingTest::messageInAnyFont()
-{
-    QFont font(QStringLiteral("DejaVu Sans"));
-    font.setPixelSize(70);
-    font.setItalic(true);
-    ZintWrapper barcode;
-    barcode.setErrorFont(font);
-    barcode.setForegroundColor(Qt::red);
-    const PaintCommand message = paintedBy(barcode, Field).last();
-    QCOMPARE(message.font.family(), QStringLiteral("DejaVu Sans"));
-    QVERIFY(message.font.italic());
-    QCOMPARE(message.font.pointSize(), 12);
-    QCOMPARE(message.pen.color(), QColor(Qt::black));
-    QVERIFY(std::abs(message.rect.width() - barcode.errorTextSize().width()) < 1e-4);
-}
-
-void ZintWrapperPaintingTest::lengthsOfEan_data()
-{
-    QTest::addColumn<int>("variant");
-    QTest::addColumn<QByteArray>("data");
-    QTest::addColumn<bool>("fits");
-
-    const QByteArray digits("1234567890123");
-    for (int length = 1; length <= 13; ++length) {
-        QTest::addRow("two-digit add-on, %d digits", length) << 0 << digits.left(length) << (length <= 2);
-        QTest::addRow("five-digit add-on, %d digits", length) << 1 << digits.left(length) << (length <= 5);
-        QTest::addRow("EAN-8, %d digits", length) << 2 << digits.left(length) << (length == 7);
-        QTest::addRow("EAN-13, %d digits", length) << 3 << digits.left(length) << (length == 12);
-        QTest::addRow("variant below, %d digits", length) << -1 << digits.left(length) << false;
-        QTest::addRow("variant above, %d digits", length) << 4 << digits.left(length) << false;
-    }
-}
-
-void ZintWrapperPaintingTest::lengthsOfEan()
-{
-    QFETCH(int, variant);
-    QFETCH(QByteArray, data);
-    QFETCH(bool, fits);
-    ZintWrapper barcode;
-    barcode.setSymbology(13);
-    barcode.setEanVariant(variant);
-    barcode.setData(data);
-    barcode.fitToSize(Field.size());
-    const QVector<PaintCommand> commands = paintedBy(barcode, Field);
-    if (!barcode.encode()) // the last of 13 digits is not the check digit
-        compareMessage(commands, barcode.errorText());
-    else if (!fits)
-        compareMessage(commands, QStringLiteral("error: Invalid Length Input!"));
-    QCOMPARE(modulesOf(commands).isEmpty(), !fits);
-}
-
-void ZintWrapperPaintingTest::lengthsInEanComposites_data()
-{
-    QTest::addColumn<int>("variant");
-    QTest::addColumn<QByteArray>("primary");
-    QTest::addColumn<bool>("fits");
-
-    QTest::newRow("EAN-8") << 2 << QByteArray("1234567") << true;
-    QTest::newRow("EAN-13") << 3 << QByteArray("123456789012") << true;
-    QTest::newRow("EAN-8 for EAN-13") << 3 << QByteArray("1234567") << false;
-    QTest::newRow("EAN-13 for EAN-8") << 2 << QByteArray("123456789012") << false;
-    QTest::newRow("EAN-13 with check digit") << 3 << QByteArray("1234567890128") << false;
-    QTest::newRow("EAN-8 with check digit") << 2 << QByteArray("12345670") << false;
-    QTest::newRow("EAN-13 for an add-on") << 0 << QByteArray("123456789012") << false;
-    QTest::newRow("EAN-8 for an add-on") << 1 << QByteArray("1234567") << false;
-    QTest::newRow("variant below") << -1 << QByteArray("123456789012") << false;
-    QTest::newRow("variant above") << 4 << QByteArray("1234567") << false;
-}
-
-void ZintWrapperPaintingTest::lengthsInEanComposites()
-{
-    QFETCH(int, variant);
-    QFETCH(QByteArray, primary);
-    QFETCH(bool, fits);
-    ZintWrapper barcode;
-    barcode.setSymbology(130);
-    barcode.setEanVariant(variant);
-    barcode.setPrimary(primary);
-    barcode.setData("[21]A12345678");
-    QVERIFY(barcode.fitToSize(Field.size()));
-    const QVector<PaintCommand> commands = paintedBy(barcode, Field);
-    if (!fits)
-        compareMessage(commands, QStringLiteral("error: Invalid Length Input in Linear Component!"));
-    QCOMPARE(modulesOf(commands).isEmpty(), !fits);
-}
-
-void ZintWrapperPaintingTest::ean13WithItsCheckDigit()
-{
-    ZintWrapper barcode;
-    barcode.setSymbology(13);
-    barcode.setData("1234567890128");
-    QVERIFY(barcode.fitToSize({230, 100}));
-    compareMessage(paintedBy(barcode, Field), QStringLiteral("error: Invalid Length Input!"));
-    barcode.setData("123456789012");
-    QVERIFY(barcode.fitToSize({230, 100}));
-    const QVector<QRectF> modules = modulesOf(paintedBy(barcode, Field));
-    QVERIFY(isNear(modules.first(), {20, 0, 2, barcode.barHeight() + 10}));
-    QVERIFY(isNear(modules.last(), {20 + 94 * 2, 0, 2, barcode.barHeight() + 10}));
-}
-
-void ZintWrapperPaintingTest::offsetOfBarsUnderAWideText()
-{
-    ZintWrapper barcode;
-    linear(&barcode);
-    const double columns = barcode.symbolWidth();
-    const double text = QFontMetricsF(barcode.textFont()).horizontalAdvance(QStringLiteral("Cheque"));
-    const auto firstBar = [&barcode] { return modulesOf(paintedBy(barcode, Field)).at(0).x(); };
-    barcode.setModuleWidth(0.25);
-    barcode.setBarHeight(20);
-    QVERIFY(text > 0.25 * columns + 10);
-    QVERIFY(std::abs(firstBar() - (text - 0.25 * columns) / 2) < 1e-9);
-    // not without text
-    barcode.setIsShowText(false);
-    QCOMPARE(firstBar(), 0.0);
-    // and not where the bars are wider
-    barcode.setIsShowText(true);
-    barcode.setModuleWidth(2);
-    QCOMPARE(firstBar(), 0.0);
-    // fitted, the bars span the text
-    barcode.fitToSize({5, 60});
-    QVERIFY(std::abs(firstBar()) < 1e-9);
-}
-
-void ZintWrapperPaintingTest::offsetStaysForMatrixCodes()
-{
-    const double shift = [] {
-        ZintWrapper barcode;
-        linear(&barcode);
-        barcode.setModuleWidth(0.25);
-        return modulesOf(paintedBy(barcode, Field)).at(0).x();
-    }();
-    QVERIFY(shift > 5);
-    const auto isShifted = [shift](const char *name) {
-        const Sample &sample = barcodesamples::named(name);
-        ZintWrapper barcode;
-        linear(&barcode);
-        barcode.setModuleWidth(0.25);
-        paintedBy(barcode, Field);
-        barcodesamples::apply(&barcode, sample);
-        apply(&barcode, Setups[0]);
-        const QRectF expected = Places(sample, barcode, Setups[0]).modules().at(0);
-        const QRectF painted = modulesOf(paintedBy(barcode, Field)).at(0);
-        return isNear(painted, expected.translated(shift, 0)) && !isNear(painted, expected);
-    };
-    for (const char *name : {"QR Code", "Data Matrix", "Aztec", "Micro QR", "HIBC QR", "Aztec rune", "DataBar stacked"})
-        QVERIFY2(isShifted(name), name);
-    for (const char *name : {"PDF417", "DataBar stacked omnidirectional", "DataBar expanded stacked", "EAN-13", "UPC-A",
-                             "EAN-13 composite", "DataBar composite", "DataBar stacked composite", "Code 39"})
-        QVERIFY2(!isShifted(name), name);
-
-    // Codes in between leave it, the next line of text does not.
-    ZintWrapper barcode;
-    linear(&barcode);
-    barcode.setModuleWidth(0.25);
-    paintedBy(barcode, Field);
-    for (const char *name : {"PDF417", "EAN-13", "UPC-A", "MicroPDF417", "GS1-128 composite"}) {
-        barcodesamples::apply(&barcode, barcodesamples::named(name));
-        paintedBy(barcode, Field);
-    }
-    barcodesamples::apply(&barcode, barcodesamples::named("QR Code"));
-    barcode.fitToSize({42, 42});
-    QVERIFY(std::abs(modulesOf(paintedBy(barcode, Field)).at(0).x() - shift) < 1e-9);
-    linear(&barcode)->fitToSize(Field.size());
-    paintedBy(barcode, Field);
-    barcodesamples::apply(&barcode, barcodesamples::named("QR Code"));
-    QCOMPARE(modulesOf(paintedBy(barcode, Field)).at(0).x(), 0.0);
-}
-
-void ZintWrapperPaintingTest::offsetOfAddOns()
-{
-    ZintWrapper barcode;
-    barcodesamples::apply(&barcode, barcodesamples::named("EAN-5 add-on"));
-    const double text = QFontMetricsF(barcode.textFont()).horizontalAdvance(QStringLiteral("12345"));
-    barcode.fitToSize({10, 60});
-    QCOMPARE(barcode.moduleWidth(), text / 67);
-    const double shift = (text - 47 * barcode.moduleWidth()) / 2;
-    QVERIFY(shift > 1);
-    QVERIFY(std::abs(modulesOf(paintedBy(barcode, Field)).at(0).x() - shift) < 1e-9);
-    barcodesamples::apply(&barcode, barcodesamples::named("QR Code"));
-    QVERIFY(std::abs(modulesOf(paintedBy(barcode, Field)).at(0).x() - shift) < 1e-9);
-    barcodesamples::apply(&barcode, barcodesamples::named("EAN-2 add-on"));
-    barcode.fitToSize({200, 60});
-    QCOMPARE(modulesOf(paintedBy(barcode, Field)).at(0).x(), 0.0);
 }
 
 // The guards reach down without any digits between them.
