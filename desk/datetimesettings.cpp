@@ -37,7 +37,11 @@ void setFormat(D &object, int format)
     object.setDateTimeFormat(static_cast<Datetime_Format>(format));
     if (object.isTimeSection() == wasTime)
         return;
-    object.setOrderType(0);
+    if (object.isTimeSection())
+        object.setTimeOrderType(Order_HMS);
+    else
+        object.setDateOrderType(Order_YMD);
+    object.syncDateTimeEditGeometry();
     if (object.isTimeSection() && object.seperatorType() == Sep_ChineseDate)
         object.setSeperatorType(Sep_ChineseTime);
     else if (!object.isTimeSection() && object.seperatorType() == Sep_ChineseTime)
