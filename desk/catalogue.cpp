@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "desk/catalogue.h"
 
+#include "desk/barcodesettings.h"
 #include "desk/cellsettings.h"
 #include "desk/datetimesettings.h"
 #include "desk/entrysettings.h"
@@ -25,6 +26,7 @@ const QVector<Kind> &kinds()
         {QStringLiteral("separatedEdit"), Obj_SeperateEdit, cellsettings::ofSeparatedEdits()},
         {QStringLiteral("financialEdit"), Obj_FinancialEdit, cellsettings::ofFinancialEdits()},
         {QStringLiteral("datetime"), Obj_Datetime, datetimesettings::ofDatetimes()},
+        {QStringLiteral("barcode"), Obj_Barcode, barcodesettings::ofBarcodes()},
     };
     return all;
 }

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "desk/checking.h"
 
+#include "barcode/tavrobarcode.h"
 #include "cells/tavrofinancialedit.h"
 #include "cells/tavroseperateedit.h"
 #include "datetime/tavrodatetime.h"
+#include "desk/barcodechecking.h"
 #include "desk/cellchecking.h"
 #include "desk/datetimechecking.h"
 #include "desk/form.h"
@@ -51,6 +53,8 @@ QString problemOf(TavroPrototype *object)
         return cellchecking::problemOf(*grid);
     if (auto *date = qobject_cast<TavroDatetime *>(object))
         return datetimechecking::problemOf(*date);
+    if (auto *barcode = qobject_cast<TavroBarcode *>(object))
+        return barcodechecking::problemOf(*barcode);
     return {};
 }
 

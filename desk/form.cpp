@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "desk/form.h"
 
+#include "barcode/tavrobarcode.h"
 #include "core/tavrotext.h"
 #include "datetime/tavrodatetime.h"
 #include "desk/datetimesettings.h"
@@ -51,6 +52,8 @@ void Form::setGeometry(TavroPrototype *object, const QRectF &millimetres) const
         rule->setLineWidthPix(rule->lineWidthPhy() * scale);
     else if (auto *frame = qobject_cast<TavroRect *>(object))
         frame->setLineWidthPix(frame->lineWidthPhy() * scale);
+    else if (auto *barcode = qobject_cast<TavroBarcode *>(object))
+        barcode->syncReadableTextPixSz();
 }
 
 void Form::fitTexts() const

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "desk/record.h"
 
+#include "barcode/tavrobarcode.h"
 #include "core/tavrotext.h"
 #include "datetime/tavrodatetime.h"
+#include "desk/barcodesettings.h"
 #include "desk/datetimevalues.h"
 #include "desk/form.h"
 #include "desk/jsonfile.h"
@@ -52,6 +54,10 @@ void fillObject(TavroPrototype *object, const QVariant &content)
     // In a batch most values are those of the record before: the date, the account, the purpose.
     if (object->contentData() == content)
         return;
+    if (auto *barcode = qobject_cast<TavroBarcode *>(object)) {
+        barcodesettings::setContent(*barcode, content);
+        return;
+    }
     object->setContentData(content);
     if (auto *text = qobject_cast<TavroText *>(object))
         text->adjustTextStyle();
