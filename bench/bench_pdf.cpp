@@ -2,6 +2,8 @@
 #include "bench/bareitems.h"
 #include "bench/ratioreport.h"
 #include "cells/tavrofinancialedit.h"
+#include "datetime/tavrodatetime.h"
+#include "desk/datetimesections.h"
 #include "desk/fonts.h"
 #include "desk/form.h"
 #include "desk/formreader.h"
@@ -123,6 +125,8 @@ public:
                 drawn.texts.append({edit->prefix() + edit->displayText(), edit->font()});
             for (const TavroFinancialEdit *grid : qAsConst(m_grids))
                 drawn.cells.append(digitsOf(*grid));
+            for (const TavroDatetime *date : qAsConst(m_dates))
+                drawn.cells.append(sectionsOf(*date));
             m_pages.append(drawn);
         }
     }
@@ -135,8 +139,10 @@ public:
                 m_texts.at(i)->setText(drawn.texts.at(i).text);
                 m_texts.at(i)->setFont(drawn.texts.at(i).font);
             }
-            for (int i = 0; i < m_cells.size(); ++i)
-                m_cells.at(i)->setTexts(drawn.cells.at(i));
+            // In the order in which a page keeps them: grids, then dates.
+            const QVector<BareCells *> cells = m_gridCells + m_dateCells;
+            for (int i = 0; i < cells.size(); ++i)
+                cells.at(i)->setTexts(drawn.cells.at(i));
             m_scene.render(painter, target(m_form->pageSize), m_form->pageRect());
         });
     }
@@ -167,6 +173,15 @@ private:
         return texts;
     }
 
+    // What is printed of a date: its texts, where the editor has them.
+    static QVector<CellText> sectionsOf(const TavroDatetime &date)
+    {
+        QVector<CellText> texts;
+        for (const datetimesections::Section &section : datetimesections::printed(date))
+            texts.append({section.rect, section.text});
+        return texts;
+    }
+
     void add(TavroPrototype *object)
     {
         QGraphicsItem *item = nullptr;
@@ -183,7 +198,12 @@ private:
         } else if (const auto *grid = qobject_cast<TavroFinancialEdit *>(object)) {
             auto *cells = new BareCells(grid->boundingRect(), grid->font(), QColor(grid->fontColor()));
             m_grids.append(grid);
-            m_cells.append(cells);
+            m_gridCells.append(cells);
+            item = cells;
+        } else if (const auto *date = qobject_cast<TavroDatetime *>(object)) {
+            auto *cells = new BareCells(date->boundingRect(), date->font(), Qt::black);
+            m_dates.append(date);
+            m_dateCells.append(cells);
             item = cells;
         }
         if (item)
@@ -202,7 +222,9 @@ private:
     QVector<TavroEdit *> m_edits;
     QVector<BareText *> m_texts;
     QVector<const TavroFinancialEdit *> m_grids;
-    QVector<BareCells *> m_cells;
+    QVector<BareCells *> m_gridCells;
+    QVector<const TavroDatetime *> m_dates;
+    QVector<BareCells *> m_dateCells;
     QVector<Page> m_pages;
 };
 

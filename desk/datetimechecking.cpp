@@ -8,6 +8,7 @@
 #include "desk/printing.h"
 #include "desk/textfit.h"
 
+#include <QFont>
 #include <algorithm>
 
 namespace datetimechecking {
@@ -34,6 +35,13 @@ QString problemOfValue(const TavroDatetime &object, const Sections &sections)
     return {};
 }
 
+// The ink of a separator may be wider than the text, by which its width is measured.
+bool fits(const datetimesections::Section &section, const QFont &font)
+{
+    const double beside = section.isSeparator ? section.rect.width() : 0;
+    return textfit::fitsCell(section.rect.adjusted(-beside, 0, beside, 0), font, section.text);
+}
+
 } // namespace
 
 QString problemOf(TavroDatetime &object)
@@ -45,7 +53,7 @@ QString problemOf(TavroDatetime &object)
         return problem;
     const QString place = object.isCustomSection() ? QStringLiteral("rectangle") : QStringLiteral("section");
     for (const datetimesections::Section &section : sections) {
-        if (!textfit::fitsCell(section.rect, object.font(), section.text))
+        if (!fits(section, object.font()))
             return QStringLiteral("text does not fit its %1: %2").arg(place, messages::quoted(section.text));
     }
     return {};

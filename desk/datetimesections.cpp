@@ -13,7 +13,7 @@ QVector<Section> printed(const TavroDatetime &object)
 {
     const QRectF rect = object.boundingRect();
     if (object.isCustomSection())
-        return {{rect, object.contentData().toDateTime().toString(object.customDatetimeFormat())}};
+        return {{rect, object.contentData().toDateTime().toString(object.customDatetimeFormat()), false}};
     const auto *row = qobject_cast<const QSplitter *>(object.widgetPrxy()->widget());
     QVector<Section> sections;
     int x = qRound(rect.x());
@@ -22,7 +22,7 @@ QVector<Section> printed(const TavroDatetime &object)
         const auto *label = qobject_cast<const QLabel *>(row->widget(i));
         // Values and separators alternate. A hidden separator only takes its room.
         if (label && (i % 2 == 0 || object.isShowSeperator()))
-            sections.append({QRectF(x, qRound(rect.y()), width, qRound(rect.height())), label->text()});
+            sections.append({QRectF(x, qRound(rect.y()), width, qRound(rect.height())), label->text(), i % 2 != 0});
         x += width + row->handleWidth();
     }
     return sections;

@@ -14,6 +14,7 @@ struct Section
 {
     QRectF rect; ///< in the middle of which the text stands, in pixels
     QString text;
+    bool isSeparator; ///< as wide as its text by itself
 };
 
 /// Values and, where they are shown, separators from the left; one section for a pattern.

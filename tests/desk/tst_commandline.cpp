@@ -87,6 +87,7 @@ private Q_SLOTS:
     void namesFaces();
     void linesStayLines();
     void realProcess();
+    void realProcessPrintsDates();
     void realProcessInOtherLocales_data();
     void realProcessInOtherLocales();
 
@@ -406,6 +407,20 @@ void CommandLineTest::realProcess()
     QCOMPARE(printed.err, QString());
     QCOMPARE(printed.code, 0);
     QVERIFY(measuring::wordsOfPdf(output).contains(QStringLiteral("10,500.50")));
+}
+
+// Editors of dates are windows to the platform, which remarks on them.
+void CommandLineTest::realProcessPrintsDates()
+{
+    const QJsonObject date =
+        deskforms::text("datetime", {5, 5, 60, 6}, settings(R"({"preset":"2022-11-05","separator":"slash"})"));
+    const QString form = inFolder("dates.tform");
+    QVERIFY(deskforms::write(form, deskforms::bytesOf(deskforms::file({date}))));
+    const QString output = inFolder("dates.pdf");
+    const Outcome printed = runProcess({QStringLiteral("print"), form, QStringLiteral("--output"), output});
+    QCOMPARE(printed.err, QString());
+    QCOMPARE(printed.code, 0);
+    QVERIFY(measuring::wordsOfPdf(output).contains(QStringLiteral("2022")));
 }
 
 void CommandLineTest::realProcessInOtherLocales_data()

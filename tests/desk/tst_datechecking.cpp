@@ -208,6 +208,8 @@ void DateCheckingTest::fit_data()
     add("too low", low, capital, "text does not fit its section: \"贰零贰贰\"");
     add("separator that is hidden", low, R"({"showSeparator":false})", "");
     add("separator that is shown", low, "{}", "text does not fit its section: \"年\"");
+    add("separators with wide ink", Roomy, R"({"separator":"slash","italic":true,"fontSize":16,"preset":"2022-11-05"})",
+        "");
     add("pattern", Roomy, R"({"format":"custom","preset":"2022-11-05"})", "");
     add("pattern that is too wide", narrow, R"({"format":"custom","preset":"2022-11-05"})",
         "text does not fit its rectangle: \"2022-11-05\"");
