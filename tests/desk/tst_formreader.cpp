@@ -128,7 +128,8 @@ void FormReaderTest::geometry_data()
 void FormReaderTest::geometry()
 {
     QFETCH(QRectF, millimetres);
-    for (const char *kind : {"line", "rect", "edit", "label", "separatedEdit", "financialEdit", "datetime"}) {
+    for (const char *kind :
+         {"line", "rect", "edit", "label", "separatedEdit", "financialEdit", "datetime", "barcode"}) {
         const std::unique_ptr<Form> form = deskforms::formWith({deskforms::object(kind, millimetres)});
         QVERIFY(form);
         const TavroPrototype &object = *form->entries.front().object;
