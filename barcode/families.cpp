@@ -2,8 +2,6 @@
 #include "barcode/families.h"
 
 #include <algorithm>
-#include <array>
-#include <cmath>
 
 namespace families {
 
@@ -157,7 +155,7 @@ const RetailLayout *retailLayoutOf(int symbology, int eanVariant)
     case Family::UpcE:
         return &upcE();
     case Family::UpcComposite:
-        return symbology == UpcAComposite ? &upcA() : &upcE();
+        return symbology == UpcACompositeSymbology ? &upcA() : &upcE();
     default:
         return nullptr;
     }

@@ -28,11 +28,10 @@ enum class Family {
 Family familyOf(int symbology);
 
 /// Symbology numbers that the library itself tells apart.
-constexpr int Ean = 13;
-constexpr int Code128 = 20;
-constexpr int UpcA = 34;
-constexpr int QrCode = 58;
-constexpr int UpcAComposite = 135;
+constexpr int EanSymbology = 13;
+constexpr int Code128Symbology = 20;
+constexpr int QrCodeSymbology = 58;
+constexpr int UpcACompositeSymbology = 135;
 
 /// Forms of the EAN family.
 enum EanVariant : int { Ean2AddOn = 0, Ean5AddOn = 1, Ean8 = 2, Ean13 = 3 };

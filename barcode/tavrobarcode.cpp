@@ -41,7 +41,7 @@ TavroBarcode::TavroBarcode(QGraphicsItem *parent)
     const QString text = QStringLiteral("Barcode");
     TavroPrototype::setPresetData(text);
     storeContent(text);
-    setSymbology(families::QrCode);
+    setSymbology(families::QrCodeSymbology);
     setWidth(10);
     setHeight(10);
 }
@@ -59,7 +59,6 @@ void TavroBarcode::setContentData(const QVariant &content)
     TavroPrototype::setContentData(content);
     syncEncodeData();
     syncBarcodeRect(false);
-    repaint();
 }
 
 void TavroBarcode::setPresetData(const QVariant &preset)
@@ -98,7 +97,7 @@ void TavroBarcode::printPaint(QPainter *painter)
     if (!isPrint())
         return;
     TavroPrototype::printPaint(painter);
-    // The symbol on paper is the one that was fitted.
+    // The symbol on paper is the one that was encoded last.
     m_wrapper->setIsReencoding(false);
     m_wrapper->paint(painter, boundingRect().normalized());
     m_wrapper->setIsReencoding(true);
@@ -106,7 +105,7 @@ void TavroBarcode::printPaint(QPainter *painter)
 
 int TavroBarcode::symbology() const
 {
-    const bool isEan = m_wrapper->symbology() == families::Ean;
+    const bool isEan = m_wrapper->symbology() == families::EanSymbology;
     if (isEan && m_wrapper->eanVariant() == families::Ean8)
         return Ean8Symbology;
     if (isEan && m_wrapper->eanVariant() == families::Ean13)
@@ -120,8 +119,8 @@ void TavroBarcode::setSymbology(int symbology)
     const bool isEan13 = symbology == Ean13Symbology;
     if (isEan8 || isEan13)
         m_wrapper->setEanVariant(isEan8 ? families::Ean8 : families::Ean13);
-    m_wrapper->setSymbology(isEan8 || isEan13 ? families::Ean : symbology);
-    setProportional(symbology == families::QrCode);
+    m_wrapper->setSymbology(isEan8 || isEan13 ? families::EanSymbology : symbology);
+    setProportional(symbology == families::QrCodeSymbology);
     syncEncodeData();
     syncBarcodeRect(true);
     setIsModified(true);
@@ -185,7 +184,7 @@ void TavroBarcode::setIsKeepRegionSz(bool keep)
 
 bool TavroBarcode::isProportional() const
 {
-    return m_wrapper->symbology() == families::QrCode;
+    return m_wrapper->symbology() == families::QrCodeSymbology;
 }
 
 void TavroBarcode::syncEncodeData()
@@ -213,6 +212,7 @@ void TavroBarcode::syncBarcodeRect(bool reset)
     const QRectF rect = boundingRect();
     if (!reset && m_isKeepRegionSz) {
         m_wrapper->fitToSize(rect.size());
+        repaint();
         return;
     }
     if (reset) {

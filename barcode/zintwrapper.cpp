@@ -137,8 +137,8 @@ void ZintWrapper::applyOptions()
         m_symbol->option_2 = m_microQrVersion;
         break;
     case BARCODE_RSS_EXPSTACK_CC:
-        m_symbol->option_2 = m_expandedStackedColumns;
         m_symbol->option_1 = m_compositeMode;
+        m_symbol->option_2 = m_expandedStackedColumns;
         break;
     default:
         if (m_symbology >= BARCODE_EANX_CC && m_symbology <= BARCODE_RSS14_OMNI_CC)
@@ -161,7 +161,8 @@ void ZintWrapper::applyCharacterSet()
     default:
         return;
     }
-    const bool isAscii = std::all_of(m_data.cbegin(), m_data.cend(), [](char byte) { return byte >= 0; });
+    const bool isAscii =
+        std::all_of(m_data.cbegin(), m_data.cend(), [](char byte) { return static_cast<unsigned char>(byte) < 0x80; });
     if (m_inputMode == UNICODE_MODE && !isAscii)
         m_symbol->eci = Utf8Eci;
 }

@@ -37,7 +37,7 @@ public:
     bool fitToSize(const QSizeF &size);
     /// What the symbol takes at the module width and the bar height that are set; (0, 0) without a symbol.
     QSizeF naturalSize();
-    /// Of the message of libzint while the last encoding failed; (0, 0) otherwise.
+    /// Of the message of libzint, at 12 points, while the last encoding failed; (0, 0) otherwise.
     QSizeF errorTextSize() const;
     /// Background over the whole rectangle, then the symbol or a message from its top left corner on.
     void paint(QPainter *painter, const QRectF &target);
@@ -61,6 +61,7 @@ public:
     /// Messages are drawn in its family and style, at 12 points.
     QFont errorFont() const { return m_errorFont; }
     void setErrorFont(const QFont &font) { m_errorFont = font; }
+    /// Sized in pixels.
     QFont textFont() const { return m_textFont; }
     void setTextFont(const QFont &font) { m_textFont = font; }
     /// Bytes of the linear component of a composite symbol, 127 at most.
@@ -80,6 +81,7 @@ public:
     void setEanVariant(int variant) { m_eanVariant = variant; }
     double guardExtension() const { return m_guardExtension; }
     void setGuardExtension(double extension) { m_guardExtension = extension; }
+    /// Marks of EAN symbols, shown with the text.
     bool hasQuietZoneMarks() const { return m_hasQuietZoneMarks; }
     void setHasQuietZoneMarks(bool has) { m_hasQuietZoneMarks = has; }
     int stackedRowModules() const { return m_stackedRowModules; }
@@ -120,13 +122,17 @@ public:
     void setMsiCheckDigit(int scheme) { m_msiCheckDigit = scheme; }
 
 private:
+    /// Results above it are warnings and errors of libzint. A symbol that it only warns about is not drawn either: on a
+    /// bill nobody sees the warning.
+    static constexpr int MostResult = 1;
+
     struct SymbolDeleter
     {
         void operator()(zint_symbol *symbol) const;
     };
 
     // the symbol as it is, without encoding
-    bool isUsable() const { return m_symbol && m_lastResult <= 1; }
+    bool isUsable() const { return m_symbol && m_lastResult <= MostResult; }
     families::Family family() const { return families::familyOf(m_symbology); }
     bool isDark(int row, int column) const;
     QVector<families::Row> rows() const;
@@ -161,7 +167,7 @@ private:
     bool m_isReencoding;
     double m_textOffset = 0;
     std::unique_ptr<zint_symbol, SymbolDeleter> m_symbol;
-    int m_symbology = families::Code128;
+    int m_symbology = families::Code128Symbology;
     int m_inputMode;
     double m_moduleWidth = 0;
     double m_barHeight = 0;

@@ -74,19 +74,10 @@ void ZintWrapper::updateTextOffset()
 void ZintWrapper::drawSymbol(QPainter *painter)
 {
     const families::RetailLayout *layout = families::retailLayoutOf(m_symbology, m_eanVariant);
-    switch (family()) {
-    case Family::None:
-        return;
-    case Family::PlainLinear:
-    case Family::Ean:
-        if (!layout)
-            updateTextOffset();
-        break;
-    default:
-        break;
-    }
-    const bool isShifted =
-        family() == Family::Matrix || family() == Family::DataBarStacked || (families::hasText(family()) && !layout);
+    const bool hasTextLine = families::hasText(family()) && !layout;
+    if (hasTextLine)
+        updateTextOffset();
+    const bool isShifted = family() == Family::Matrix || family() == Family::DataBarStacked || hasTextLine;
     // The shift of a matrix code is the one that the last line of text left.
     const double left = layout ? families::Margin * m_moduleWidth : isShifted ? m_textOffset : 0;
     drawRows(painter, left, layout);
@@ -99,10 +90,11 @@ void ZintWrapper::drawRows(QPainter *painter, double left, const families::Retai
     double y = 0;
     for (int row = 0; row < all.size(); ++row) {
         const double height = rowHeight(all.at(row));
+        const int first = layout && all.at(row).isBar ? firstBar(row) : 0;
         for (int x = 0; x < m_symbol->width; ++x) {
             if (!isDark(row, x))
                 continue;
-            const bool isGuard = layout && all.at(row).isBar && layout->isGuard(x - firstBar(row));
+            const bool isGuard = layout && all.at(row).isBar && layout->isGuard(x - first);
             const QRectF module(x * m_moduleWidth + left, y, m_moduleWidth + overlap,
                                 height + overlap + (isGuard ? m_guardExtension : 0));
             painter->fillRect(module, m_foregroundBrush);

@@ -98,7 +98,6 @@ void CalendarWidget::setUpCalendar()
     shadow->setColor(Qt::gray);
     m_calendar->setGraphicsEffect(shadow);
     if (auto *weeks = m_calendar->findChild<QTableView *>()) {
-        // Otherwise no cell is smaller than the font's largest letter, and the last weeks and days are out of sight.
         weeks->horizontalHeader()->setMinimumSectionSize(1);
         weeks->verticalHeader()->setMinimumSectionSize(1);
         weeks->installEventFilter(this);
@@ -123,6 +122,7 @@ void CalendarWidget::setUpButtons()
     m_todayButton->setIcon(icon(QStringLiteral("today")));
     m_todayButton->setStyleSheet(whiteGround);
     m_todayButton->setToolTip(tr("Today"));
+    // Square with the icon and the style that it has by now.
     m_todayButton->setFixedWidth(m_todayButton->sizeHint().height());
 
     m_confirmButton->setStyleSheet(whiteGround);

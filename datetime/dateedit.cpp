@@ -28,11 +28,7 @@ void DateEdit::setSeperatorType(const Datetime_Seperator_Type &type)
 void DateEdit::setIsShowSeperator(bool show)
 {
     DateTimeEditPrototype::setIsShowSeperator(show);
-    whenAtRest([this] {
-        const QList<int> widths = sizes();
-        rebuild();
-        setSizes(widths);
-    });
+    rebuildKeepingWidths([this] { rebuild(); });
 }
 
 DateOrderType DateEdit::orderType() const

@@ -37,18 +37,29 @@ public:
 protected:
     void mouseMoveEvent(QMouseEvent *event) override
     {
+        move([this, event] { QSplitterHandle::mouseMoveEvent(event); });
+    }
+    // Where the sections do not follow at once, it is the release that moves them.
+    void mouseReleaseEvent(QMouseEvent *event) override
+    {
+        move([this, event] { QSplitterHandle::mouseReleaseEvent(event); });
+    }
+
+private:
+    template <typename Event>
+    void move(Event handle)
+    {
         const QPointer<DateTimeEditPrototype> editor(m_editor);
         // A listener may let the event loop turn, and so come by here again.
         const bool wasMoving = std::exchange(editor->m_isMoving, true);
-        QSplitterHandle::mouseMoveEvent(event);
+        handle();
         if (!editor)
             return;
         editor->m_isMoving = wasMoving;
         if (!wasMoving && !editor->m_waiting.isEmpty())
-            QMetaObject::invokeMethod(m_editor, &DateTimeEditPrototype::callWaiting, Qt::QueuedConnection);
+            QMetaObject::invokeMethod(editor.data(), &DateTimeEditPrototype::callWaiting, Qt::QueuedConnection);
     }
 
-private:
     DateTimeEditPrototype *m_editor;
 };
 
@@ -135,11 +146,12 @@ void DateTimeEditPrototype::paintSections(QPainter *painter, const QRectF &rect)
     const QRect row = sections::wholePixels(rect);
     const QList<int> widths = sizes();
     int x = row.x();
-    for (int i = 0; i < widths.size(); ++i) {
+    // A widget that somebody else put into the row has no text of ours.
+    for (int i = 0; i < qMin(widths.size(), m_labelTexts.size()); ++i) {
         // A text that is wider than its section has to be seen to be mended.
         if (m_isShowSeperator || isValue(i))
             painter->drawText(QRect(x, row.y(), widths.at(i), row.height()), Qt::AlignCenter | Qt::TextDontClip,
-                              m_texts.at(i));
+                              m_labelTexts.at(i));
         x += widths.at(i) + handleWidth();
     }
 }
@@ -157,6 +169,15 @@ void DateTimeEditPrototype::whenAtRest(const std::function<void()> &rebuild)
         rebuild();
 }
 
+void DateTimeEditPrototype::rebuildKeepingWidths(const std::function<void()> &rebuild)
+{
+    whenAtRest([this, rebuild] {
+        const QList<int> widths = sizes();
+        rebuild();
+        setSizes(widths);
+    });
+}
+
 void DateTimeEditPrototype::callWaiting()
 {
     if (m_isMoving)
@@ -169,9 +190,9 @@ void DateTimeEditPrototype::buildLabels(const QVector<sections::Label> &labels)
 {
     while (count() > 0)
         delete widget(count() - 1);
-    m_texts.clear();
+    m_labelTexts.clear();
     for (const sections::Label &label : labels) {
-        m_texts.append(label.text);
+        m_labelTexts.append(label.text);
         // A splitter takes in whatever becomes its child, so a label is set up before and not laid out twice.
         auto *widget = new SectionLabel(label.text);
         widget->setAlignment(Qt::AlignCenter);
@@ -190,7 +211,7 @@ void DateTimeEditPrototype::writeValues(const std::array<int, 3> &places, const 
         const int index = 2 * places[section];
         if (index < 0 || index >= count())
             continue;
-        m_texts[index] = texts[section];
+        m_labelTexts[index] = texts[section];
         labelAt(index)->setText(texts[section]);
     }
 }

@@ -52,6 +52,8 @@ protected:
     /// Calls what replaces labels: at once, or as soon as the event loop turns again where a handle is just being
     /// moved. Whoever moves it goes on using it.
     void whenAtRest(const std::function<void()> &rebuild);
+    /// The same, and keeps the widths that the sections have then.
+    void rebuildKeepingWidths(const std::function<void()> &rebuild);
     /// Replaces all labels. Their widths are shared out anew.
     void buildLabels(const QVector<sections::Label> &labels);
     /// Writes the text of each section into the value at its place.
@@ -67,7 +69,7 @@ private:
     void callWaiting();
 
     QFont m_font;
-    QVector<QString> m_texts; ///< of the labels, painted without a walk over the widgets
+    QVector<QString> m_labelTexts; ///< of the labels, painted without a walk over the widgets
     QDateTime m_dateTime;
     bool m_isShowSeperator = true;
     bool m_areHandlesEnabled = true;

@@ -2,6 +2,7 @@
 #include "datetime/sections.h"
 
 #include <QStringView>
+#include <cmath>
 
 namespace sections {
 
@@ -78,11 +79,11 @@ QVector<Label> labelsOf(const Places &places, Datetime_Seperator_Type type, bool
     return {};
 }
 
-int wholePixel(double pixels)
+// Within what a widget can have, and a number.
+double bounded(double pixels)
 {
     constexpr double most = (1 << 24) - 1;
-    // Written so that "not a number" becomes a number too.
-    return pixels > -most ? qRound(qMin(pixels, most)) : pixels <= -most ? -qRound(most) : 0;
+    return std::isnan(pixels) ? 0 : qBound(-most, pixels, most);
 }
 
 } // namespace
@@ -109,7 +110,13 @@ QVector<Label> timeLabels(const Places &places, Datetime_Seperator_Type type, bo
 
 QRect wholePixels(const QRectF &rect)
 {
-    return {wholePixel(rect.x()), wholePixel(rect.y()), wholePixel(rect.width()), wholePixel(rect.height())};
+    return {qRound(bounded(rect.x())), qRound(bounded(rect.y())), qRound(bounded(rect.width())),
+            qRound(bounded(rect.height()))};
+}
+
+int truncatedPixel(double pixels)
+{
+    return static_cast<int>(bounded(pixels));
 }
 
 } // namespace sections

@@ -26,13 +26,15 @@ struct Label
 };
 
 /// Labels of a row from the left: each value followed by its separator. A word belongs to its section wherever that
-/// stands, and follows the last one too; a mark stands between two sections only. Hidden separators are blanks of the
-/// same number. Empty for a separator type that the row does not have.
+/// stands, and follows the last one too; a mark stands between two sections only. A hidden word is two
+/// blanks, a hidden mark one. Empty for a separator type that the row does not have.
 QVector<Label> dateLabels(const Places &places, Datetime_Seperator_Type type, bool isShown);
 QVector<Label> timeLabels(const Places &places, Datetime_Seperator_Type type, bool isShown);
 
 /// Rectangle of an editor over that of an object: place and size rounded each on its own, halves upwards, and bounded
 /// to what a widget can have.
 QRect wholePixels(const QRectF &rect);
+/// Cut off towards zero, with the same bounds.
+int truncatedPixel(double pixels);
 
 } // namespace sections

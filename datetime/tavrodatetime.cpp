@@ -140,6 +140,7 @@ void TavroDatetime::setSeperatorType(const Datetime_Seperator_Type &type)
     for (DateTimeEditPrototype *editor : editors())
         editor->setSeperatorType(type);
     syncDateTimeEditGeometry();
+    repaint();
 }
 
 bool TavroDatetime::isShowSeperator() const
@@ -153,6 +154,7 @@ void TavroDatetime::setIsShowSeperator(bool show)
     // The widths stay, so the geometry is left alone: a row that was dragged over its boxes does not move.
     for (DateTimeEditPrototype *editor : editors())
         editor->setIsShowSeperator(show);
+    repaint();
 }
 
 int TavroDatetime::orderType() const
@@ -176,6 +178,7 @@ void TavroDatetime::setDateOrderType(const DateOrderType &order)
     m_orderType = order;
     if (m_dateEdit)
         m_dateEdit->setOrderType(order);
+    repaint();
 }
 
 void TavroDatetime::setTimeOrderType(const TimeOrderType &order)
@@ -183,12 +186,13 @@ void TavroDatetime::setTimeOrderType(const TimeOrderType &order)
     m_orderType = order;
     if (m_timeEdit)
         m_timeEdit->setOrderType(order);
+    repaint();
 }
 
 QList<int> TavroDatetime::splitSizes() const
 {
     if (isCustomSection())
-        return {static_cast<int>(width())};
+        return {sections::truncatedPixel(width())};
     const DateTimeEditPrototype *editor = currentEditor();
     return editor ? editor->sizes() : QList<int>();
 }
@@ -197,6 +201,7 @@ void TavroDatetime::setSplitSizes(QList<int> sizes)
 {
     if (DateTimeEditPrototype *editor = currentEditor())
         editor->setSizes(sizes);
+    repaint();
 }
 
 bool TavroDatetime::isDateSection() const
@@ -228,6 +233,7 @@ void TavroDatetime::syncContentData()
 {
     if (m_dateEdit)
         storeContent(m_dateEdit->dateTime());
+    repaint();
     Q_EMIT contentDataChanged();
 }
 

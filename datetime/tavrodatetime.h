@@ -14,9 +14,9 @@ class TimeEdit;
 /// Date or time over the boxes of a printed form. In design mode the sections of an editor are dragged over the boxes;
 /// in input mode a press asks the host for a calendar; on paper the sections are painted where the editor has them.
 /// Format Dt_Custom is one text by a pattern, without sections. The content is always a QDateTime; an invalid one is
-/// kept and shown empty. A host stores splitSizes() and gives them back when it loads the form.
-/// Until setDateTimeFormat() is first called, dates are written in style Dt_Arabic although the format is
-/// Dt_ArabicPadded.
+/// kept and shown with empty sections. Texts are black and centred, whatever colour, alignment and prefix are set. A
+/// host stores splitSizes() and gives them back when it loads the form. Until setDateTimeFormat() is first called,
+/// dates are written in style Dt_Arabic although the format is Dt_ArabicPadded.
 class TAVRO_EXPORT TavroDatetime : public TavroText
 {
     Q_OBJECT

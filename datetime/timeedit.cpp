@@ -29,11 +29,7 @@ void TimeEdit::setSeperatorType(const Datetime_Seperator_Type &type)
 void TimeEdit::setIsShowSeperator(bool show)
 {
     DateTimeEditPrototype::setIsShowSeperator(show);
-    whenAtRest([this] {
-        const QList<int> widths = sizes();
-        rebuild();
-        setSizes(widths);
-    });
+    rebuildKeepingWidths([this] { rebuild(); });
 }
 
 TimeOrderType TimeEdit::orderType() const

@@ -41,6 +41,7 @@ private Q_SLOTS:
     void renew_data();
     void renew();
     void announcements();
+    void derivedKindsTakePart();
 };
 
 void TestBarcodeContent::contentKeepsTheRegion()
@@ -196,6 +197,40 @@ void TestBarcodeContent::announcements()
     barcode.setSymbology(Code128);
     QCOMPARE(content.count(), 2);
     QCOMPARE(rect.count(), 2);
+}
+
+// A host's own kind of barcode sees every content and every rectangle.
+void TestBarcodeContent::derivedKindsTakePart()
+{
+    class Derived : public TavroBarcode
+    {
+    public:
+        void setContentData(const QVariant &content) override
+        {
+            ++contents;
+            TavroBarcode::setContentData(content);
+        }
+        void setBoundingRect(const QRectF &rect) override
+        {
+            ++rects;
+            TavroBarcode::setBoundingRect(rect);
+        }
+        int contents = 0;
+        int rects = 0;
+    };
+    Derived barcode;
+    barcode.setPresetData(QStringLiteral("1"));
+    QCOMPARE(barcode.contents, 1);
+    barcode.renew();
+    QCOMPARE(barcode.contents, 2);
+    QCOMPARE(barcode.rects, 0);
+    barcode.setSymbology(20);
+    QCOMPARE(barcode.rects, 1);
+    barcode.setIsKeepRegionSz(false);
+    barcode.setContentData(QStringLiteral("12345678"));
+    QCOMPARE(barcode.rects, 2);
+    barcode.resize(Handle_Right, {500, 0});
+    QCOMPARE(barcode.rects, 3);
 }
 
 QTEST_MAIN(TestBarcodeContent)

@@ -29,6 +29,8 @@ private Q_SLOTS:
     void painterIsRestored();
     void settingsAreSeenAtOnce_data();
     void settingsAreSeenAtOnce();
+    void printedRowsAreSeenAtOnce_data();
+    void printedRowsAreSeenAtOnce();
 };
 
 void TestTavroDatetimePainting::commands_data()
@@ -284,6 +286,46 @@ void TestTavroDatetimePainting::settingsAreSeenAtOnce()
         made->setContentData(LongAgo);
     else
         made->setIsRealTime(true);
+    QTRY_VERIFY(made->m_paints > before);
+}
+
+void TestTavroDatetimePainting::printedRowsAreSeenAtOnce_data()
+{
+    QTest::addColumn<int>("setter");
+    QTest::newRow("separator type") << 0;
+    QTest::newRow("separators shown") << 1;
+    QTest::newRow("order") << 2;
+    QTest::newRow("date order") << 3;
+    QTest::newRow("widths") << 4;
+    QTest::newRow("content written back") << 5;
+}
+
+// A preview of the paper has no editor that repaints itself.
+void TestTavroDatetimePainting::printedRowsAreSeenAtOnce()
+{
+    QFETCH(int, setter);
+    DatetimeView form;
+    QVERIFY(form.isActive());
+    auto *made = new Counting;
+    made->setBoundingRect(Boxes);
+    made->setDateTimeFormat(Dt_ArabicPadded);
+    made->setPaintMode(Paint_Print);
+    form.scene().addItem(made);
+    QTRY_VERIFY(made->m_paints > 0);
+    QVERIFY(comesToRest(*made));
+    const int before = made->m_paints;
+    if (setter == 0)
+        made->setSeperatorType(Sep_Dash);
+    else if (setter == 1)
+        made->setIsShowSeperator(false);
+    else if (setter == 2)
+        made->setOrderType(Order_DMY);
+    else if (setter == 3)
+        made->setDateOrderType(Order_DMY);
+    else if (setter == 4)
+        made->setSplitSizes({60, 16, 20, 16, 20, 16});
+    else
+        made->syncContentData();
     QTRY_VERIFY(made->m_paints > before);
 }
 
