@@ -250,25 +250,32 @@ void TestBarcodeResizing::withoutSymbol()
 
 void TestBarcodeResizing::pointerOutOfTheWorld_data()
 {
+    QTest::addColumn<int>("direction");
     QTest::addColumn<QPointF>("pointer");
-    QTest::addColumn<QSizeF>("size");
+    QTest::addColumn<QRectF>("rect");
     const double huge = std::numeric_limits<double>::infinity();
     const double none = std::numeric_limits<double>::quiet_NaN();
+    const int bottomRight = Handle_BottomRight;
+    const int topLeft = Handle_TopLeft;
     // What is no length counts as none.
-    QTest::newRow("infinite") << QPointF(huge, 250) << QSizeF(50, 50);
-    QTest::newRow("not a number") << QPointF(none, 250) << QSizeF(50, 50);
-    QTest::newRow("nothing but infinite") << QPointF(huge, huge) << QSizeF(0, 0);
-    QTest::newRow("far") << QPointF(1e9, 250) << QSizeF(1e9 - 100, 1e9 - 100);
+    QTest::newRow("infinite") << bottomRight << QPointF(huge, 250) << QRectF(100, 200, 50, 50);
+    QTest::newRow("not a number") << bottomRight << QPointF(none, 250) << QRectF(100, 200, 50, 50);
+    QTest::newRow("nothing but infinite") << bottomRight << QPointF(huge, huge) << QRectF(100, 200, 0, 0);
+    QTest::newRow("far") << bottomRight << QPointF(1e9, 250) << QRectF(100, 200, 1e9 - 100, 1e9 - 100);
+    QTest::newRow("infinite, other edges stay") << topLeft << QPointF(-huge, 200) << QRectF(100, 200, 50, 50);
+    QTest::newRow("infinite, past the other edges") << topLeft << QPointF(huge, 200) << QRectF(150, 200, 50, 50);
+    QTest::newRow("not a number, other edges stay") << topLeft << QPointF(none, 200) << QRectF(100, 200, 50, 50);
 }
 
 void TestBarcodeResizing::pointerOutOfTheWorld()
 {
+    QFETCH(int, direction);
     QFETCH(QPointF, pointer);
-    QFETCH(QSizeF, size);
+    QFETCH(QRectF, rect);
     B barcode;
     barcode.setBoundingRect(QRectF(100, 200, 50, 50));
-    barcode.resize(Handle_BottomRight, pointer);
-    QVERIFY2(isSame(barcode.boundingRect(), QRectF(QPointF(100, 200), size)), inWords(barcode.boundingRect()));
+    barcode.resize(static_cast<HandleDirect>(direction), pointer);
+    QVERIFY2(isSame(barcode.boundingRect(), rect), inWords(barcode.boundingRect()));
 }
 
 QTEST_MAIN(TestBarcodeResizing)
