@@ -146,8 +146,12 @@ void TestSeperateEditInputMethod::committedTextByAcceptance()
     fill(*edit, QStringLiteral("1 2 3 4 5 6"));
     edit->moveCursorTo(3);
     edit->setInputMethodAcceptable(acceptable);
+    const QSignalSpy changed(edit, &Edit::contentDataChanged);
     form.commit(QStringLiteral("文"));
     QCOMPARE(rowOf(*edit), acceptable ? After.arg(QStringLiteral("文")) : Before);
+    QCOMPARE(changed.count(), acceptable ? 1 : 0);
+    if (acceptable)
+        QCOMPARE(edit->contentData(), QVariant(mode == 0 ? QStringLiteral("123文.56") : QStringLiteral("123文56")));
 }
 
 void TestSeperateEditInputMethod::committedTextIsAnnouncedOnce()
