@@ -44,7 +44,7 @@ protected:
         if (!editor)
             return;
         editor->m_isMoving = wasMoving;
-        if (!wasMoving && !editor->m_waiting.isEmpty())
+        if (!editor->m_waiting.isEmpty())
             QMetaObject::invokeMethod(m_editor, &DateTimeEditPrototype::callWaiting, Qt::QueuedConnection);
     }
 

@@ -187,15 +187,18 @@ void TestDatetimeLifetimes::eventLoopTurnsWhileDragged()
     const QPoint from = DatetimeView::handleCenter(*object, 3);
     int moves = 0;
     connect(editorOf(*object), &QSplitter::splitterMoved, object, [&] {
-        object->setOrderType(Order_Y);
         if (++moves == 1)
             form.moveTo(from + QPoint(9, 0));
-        QCoreApplication::processEvents();
+        else if (moves == 3)
+            QCoreApplication::processEvents();
+        object->setOrderType(Order_Y);
         QVERIFY(!handle.isNull());
     });
     form.press(from);
     form.moveTo(from + QPoint(5, 0));
     QCOMPARE(moves, 2);
+    form.moveTo(from + QPoint(14, 0));
+    QCOMPARE(moves, 3);
     QTRY_COMPARE(rowOf(*editorOf(*object)), QStringLiteral("2022|年"));
     form.release(from);
 }
