@@ -56,7 +56,7 @@ private:
         if (!editor)
             return;
         editor->m_isMoving = wasMoving;
-        if (!wasMoving && !editor->m_waiting.isEmpty())
+        if (!editor->m_waiting.isEmpty())
             QMetaObject::invokeMethod(editor.data(), &DateTimeEditPrototype::callWaiting, Qt::QueuedConnection);
     }
 

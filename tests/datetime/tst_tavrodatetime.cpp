@@ -178,6 +178,11 @@ void TestTavroDatetime::formats()
     QVERIFY(editor->sizes().at(0) > 2 * editor->sizes().at(4));
     if (object.isDateSection())
         QCOMPARE(static_cast<DateEdit *>(editor)->textStyle(), format);
+    // A time is no style of dates.
+    const Editors both(object);
+    object.setDateTimeFormat(Dt_Capital);
+    object.setDateTimeFormat(Dt_Time);
+    QCOMPARE(both.dates->textStyle(), 1);
 }
 
 void TestTavroDatetime::customFormatSynchronisesNothing()
