@@ -117,8 +117,10 @@ void DateTimeEditPrototype::setFont(const QFont &font)
     if (font == m_font)
         return;
     m_font = font;
-    for (int i = 0; i < count(); ++i)
-        setUpFont(labelAt(i), isValue(i));
+    for (int i = 0; i < labelCount(); ++i) {
+        if (QLabel *label = labelAt(i))
+            setUpFont(label, isValue(i));
+    }
     layOut();
 }
 
@@ -146,8 +148,7 @@ void DateTimeEditPrototype::paintSections(QPainter *painter, const QRectF &rect)
     const QRect row = sections::wholePixels(rect);
     const QList<int> widths = sizes();
     int x = row.x();
-    // A widget that somebody else put into the row has no text of ours.
-    for (int i = 0; i < qMin(widths.size(), m_labelTexts.size()); ++i) {
+    for (int i = 0; i < labelCount(); ++i) {
         // A text that is wider than its section has to be seen to be mended.
         if (m_isShowSeperator || isValue(i))
             painter->drawText(QRect(x, row.y(), widths.at(i), row.height()), Qt::AlignCenter | Qt::TextDontClip,
@@ -209,10 +210,11 @@ void DateTimeEditPrototype::writeValues(const std::array<int, 3> &places, const 
     for (std::size_t section = 0; section < places.size(); ++section) {
         // Value and separator alternate, so the value at a place is the label at twice its number.
         const int index = 2 * places[section];
-        if (index < 0 || index >= count())
+        if (index < 0 || index >= labelCount())
             continue;
         m_labelTexts[index] = texts[section];
-        labelAt(index)->setText(texts[section]);
+        if (QLabel *label = labelAt(index))
+            label->setText(texts[section]);
     }
 }
 
@@ -227,7 +229,13 @@ void DateTimeEditPrototype::setUpFont(QLabel *label, bool isValue)
 
 QLabel *DateTimeEditPrototype::labelAt(int index) const
 {
-    return static_cast<QLabel *>(widget(index));
+    return qobject_cast<QLabel *>(widget(index));
+}
+
+// A host may have put a widget of its own into the row, or taken one out.
+int DateTimeEditPrototype::labelCount() const
+{
+    return qMin(count(), m_labelTexts.size());
 }
 
 bool DateTimeEditPrototype::isValue(int index) const

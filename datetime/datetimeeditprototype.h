@@ -62,7 +62,9 @@ protected:
 private:
     class Handle;
 
+    /// Null for a widget that is none.
     QLabel *labelAt(int index) const;
+    int labelCount() const;
     bool isValue(int index) const;
     void setUpFont(QLabel *label, bool isValue);
     void layOut();

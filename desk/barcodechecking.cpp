@@ -6,33 +6,68 @@
 #include "desk/messages.h"
 #include "desk/printing.h"
 
-#include <algorithm>
+#include <QFontMetricsF>
+#include <QRegularExpression>
 
 namespace barcodechecking {
 
 namespace {
 
-constexpr int Ean13 = -2;
-constexpr int Ean8 = -1;
+// Guard bars reach this far below the others, px.
+constexpr int GuardExtension = 10;
 
 // Office printers and hand-held scanners do not tell finer modules apart.
 constexpr double FinestModule = 0.19; // mm
 
+// Lower symbols are missed by hand-held scanners, or are no more than a line.
+constexpr double LeastHeight = 2; // mm
+
 // Lengths come out of divisions by the scale.
 constexpr double Rounding = 1e-6;
 
-// Digits that a symbology takes without its check digit, 0 where it does not say.
-int digitsOf(int symbology)
+// What a symbology takes, where the engine would print something else without a word: it fills values up, replaces
+// digits, makes capitals of small letters.
+struct Rule
 {
-    constexpr int ean13Digits = 12;
-    constexpr int ean8Digits = 7;
-    return symbology == Ean13 ? ean13Digits : symbology == Ean8 ? ean8Digits : 0;
+    QVector<int> symbologies;
+    QRegularExpression accepted;
+    QString expectation;
+};
+
+const Rule *ruleOf(int symbology)
+{
+    const auto exactly = [](const char *pattern) { return QRegularExpression(QLatin1String(pattern)); };
+    static const QVector<Rule> rules{
+        {{-2}, exactly("\\A[0-9]{12}\\z"), QStringLiteral("12 digits")},
+        {{-1}, exactly("\\A[0-9]{7}\\z"), QStringLiteral("7 digits")},
+        {{34}, exactly("\\A[0-9]+\\z"), QStringLiteral("digits")},
+        {{37}, exactly("\\A(?:[0-9]{1,6}|[01][0-9]{6,})\\z"), QStringLiteral("7 digits, the first of them 0 or 1")},
+        {{3}, exactly("\\A(?:[0-9]{2})+\\z|[^0-9]"), QStringLiteral("an even number of digits")},
+        {{8, 98, 99, 102, 104, 106, 108, 112}, exactly("\\A[^a-z]*\\z"), QStringLiteral("capitals")},
+    };
+    for (const Rule &rule : rules) {
+        if (rule.symbologies.contains(symbology))
+            return &rule;
+    }
+    return nullptr;
 }
 
-bool isDigits(const QString &text)
+// Digits of a symbology that stand in one group between guards, and the modules that they have.
+struct DigitGroup
 {
-    return std::all_of(text.begin(), text.end(),
-                       [](QChar character) { return character >= QLatin1Char('0') && character <= QLatin1Char('9'); });
+    int symbology;
+    int digits;
+    int modules;
+};
+
+const DigitGroup *digitGroupOf(int symbology)
+{
+    static const QVector<DigitGroup> groups{{-2, 6, 43}, {-1, 4, 29}, {34, 5, 35}, {37, 6, 43}};
+    for (const DigitGroup &group : groups) {
+        if (group.symbology == symbology)
+            return &group;
+    }
+    return nullptr;
 }
 
 // Modules of the symbol from left to right, 0 without a symbol. A symbology starts with modules of a known width.
@@ -59,13 +94,30 @@ QString problemOfValue(const TavroBarcode &object, double columns)
         return printing::isPrinted(object) ? QStringLiteral("no value to make a symbol of") : QString();
     if (!barcodesettings::isNamed(object.symbology()))
         return QStringLiteral("no symbol is printed in symbology %1").arg(object.symbology());
-    const int digits = digitsOf(object.symbology());
-    if (digits > 0 && (content.size() != digits || !isDigits(content)))
-        return QStringLiteral("invalid value %1, the symbology takes %2 digits")
-            .arg(messages::quoted(content))
-            .arg(digits);
+    const Rule *rule = ruleOf(object.symbology());
+    if (rule && !rule->accepted.match(content).hasMatch())
+        return QStringLiteral("invalid value %1, the symbology takes %2")
+            .arg(messages::quoted(content), rule->expectation);
     if (columns <= 0)
         return QStringLiteral("value cannot be encoded: %1").arg(messages::quoted(content));
+    return {};
+}
+
+// The digits below the bars of EAN and UPC, in the size in which they are printed.
+QString problemOfDigits(const TavroBarcode &object, double module)
+{
+    constexpr double points = 9;
+    const DigitGroup *group = digitGroupOf(object.symbology());
+    if (!group)
+        return {};
+    QFont font(QStringLiteral("Arial"));
+    font.setPixelSize(object.pointSzToPixSz(points));
+    const QFontMetricsF metrics(font);
+    if (metrics.height() < GuardExtension)
+        return QStringLiteral("guard bars stick out of the rectangle, the form has too few pixels per millimetre");
+    const double width = metrics.horizontalAdvance(QString(group->digits, QLatin1Char('0')));
+    if (object.hasReadableTxt() && width > group->modules * module)
+        return QStringLiteral("digits run into each other below modules of this width");
     return {};
 }
 
@@ -78,11 +130,15 @@ QString problemOfSize(TavroBarcode &object, double columns)
     const QString content = messages::quoted(object.contentData().toString());
     if (symbol.width() > room.width() + most || symbol.height() > room.height() + most)
         return QStringLiteral("symbol does not fit its rectangle: %1").arg(content);
-    const double millimetres = room.width() > 0 ? module * qAbs(object.phyRect().width()) / room.width() : 0;
+    const double scale = room.width() > 0 ? qAbs(object.phyRect().width()) / room.width() : 0;
+    const double millimetres = module * scale;
     if (millimetres < FinestModule - Rounding)
         return QStringLiteral("symbol too fine to be read, with modules of %1 mm: %2")
             .arg(QString::number(millimetres, 'f', 3), content);
-    return {};
+    if (symbol.height() * scale < LeastHeight - Rounding)
+        return QStringLiteral("symbol too low to be read: %1").arg(content);
+    const QString problem = problemOfDigits(object, module);
+    return problem.isEmpty() ? QString() : QStringLiteral("%1: %2").arg(problem, content);
 }
 
 } // namespace

@@ -128,6 +128,13 @@ bool isNamed(int symbology)
                        [symbology](const Setting::Choice &choice) { return choice.value == symbology; });
 }
 
+void start(TavroBarcode &object)
+{
+    const QRectF place = object.boundingRect();
+    object.setPresetData(QString());
+    object.setBoundingRect(place);
+}
+
 void setContent(TavroBarcode &object, const QVariant &content)
 {
     const QRectF place = object.boundingRect();

@@ -14,6 +14,9 @@ QVector<Setting> ofBarcodes();
 /// Whether the symbology has a name in form files. Those that have none print no symbol.
 bool isNamed(int symbology);
 
+/// Without a value, unlike new objects of the library: on a form nothing is printed that nobody gave.
+void start(TavroBarcode &object);
+
 /// Takes a content and keeps its place on the form.
 void setContent(TavroBarcode &object, const QVariant &content);
 

@@ -32,6 +32,9 @@ QString problemOfValue(const TavroDatetime &object, const Sections &sections)
         return QStringLiteral("invalid value %1").arg(messages::quoted(text));
     if (object.isRequired() && isBlank(sections))
         return QStringLiteral("required, but %1 prints nothing").arg(messages::quoted(text));
+    // A date with the words of a time has no sections.
+    if (!text.isEmpty() && printing::isPrinted(object) && isBlank(sections))
+        return QStringLiteral("%1 prints nothing").arg(messages::quoted(text));
     return {};
 }
 

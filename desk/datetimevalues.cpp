@@ -20,7 +20,7 @@ struct Value
     QDate date;
     QTime time;
 
-    // A time alone is kept on a day of its own, which no format of a time shows.
+    // A time alone is kept on a day of its own, which is never shown.
     QDateTime dateTime() const
     {
         if (date.isNull() && time.isNull())
@@ -47,10 +47,29 @@ Value valueOf(const QString &text)
     return {hasDate ? date : QDate(), hasTime ? time : QTime()};
 }
 
+// Whether a pattern shows what one of the letters stands for; letters in quotes stand for themselves.
+bool shows(const QString &pattern, const QString &letters)
+{
+    bool isQuoted = false;
+    for (const QChar character : pattern) {
+        if (character == QLatin1Char('\''))
+            isQuoted = !isQuoted;
+        else if (!isQuoted && letters.contains(character))
+            return true;
+    }
+    return false;
+}
+
 bool suits(const Value &value, const TavroDatetime &object)
 {
-    if (object.isCustomSection())
-        return !value.date.isNull() || !value.time.isNull();
+    // What a pattern shows and the value does not say would be made up.
+    if (object.isCustomSection()) {
+        const QString pattern = object.customDatetimeFormat();
+        const bool hasDate = !value.date.isNull();
+        const bool hasTime = !value.time.isNull();
+        return (hasDate || hasTime) && (hasDate || !shows(pattern, QStringLiteral("yMd"))) &&
+               (hasTime || !shows(pattern, QStringLiteral("hHmszaA")));
+    }
     return object.isTimeSection() ? !value.time.isNull() : !value.date.isNull();
 }
 

@@ -2,8 +2,10 @@
 #include "desk/form.h"
 
 #include "barcode/tavrobarcode.h"
+#include "core/controlfactory.h"
 #include "core/tavrotext.h"
 #include "datetime/tavrodatetime.h"
+#include "desk/barcodesettings.h"
 #include "desk/datetimesettings.h"
 #include "desk/formwords.h"
 #include "graphic/tavroline.h"
@@ -20,12 +22,20 @@ QRectF Form::pageRect() const
     return {QPointF(0, 0), pageSize * scale};
 }
 
+TavroPrototype *Form::newObject(ObjType kind)
+{
+    TavroPrototype *object = ControlFactory::factory(kind);
+    if (auto *date = qobject_cast<TavroDatetime *>(object))
+        datetimesettings::start(*date);
+    else if (auto *barcode = qobject_cast<TavroBarcode *>(object))
+        barcodesettings::start(*barcode);
+    return object;
+}
+
 void Form::addObject(TavroPrototype *object, const QRectF &millimetres, const QJsonObject &unknownSettings)
 {
     m_scene.addItem(object);
     setGeometry(object, millimetres);
-    if (auto *date = qobject_cast<TavroDatetime *>(object))
-        datetimesettings::start(*date);
     entries.push_back({object, unknownSettings});
 }
 

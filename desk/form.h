@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "core/tavrotypes.h"
+
 #include <QGraphicsScene>
 #include <QJsonObject>
 #include <QMarginsF>
@@ -40,6 +42,8 @@ public:
     QGraphicsScene &scene() { return m_scene; }
     /// The page in scene pixels.
     QRectF pageRect() const;
+    /// New object as forms start with: without a value. The caller owns it.
+    static TavroPrototype *newObject(ObjType kind);
     /// Takes an object of the library onto the scene; both rectangles are set from millimetres.
     void addObject(TavroPrototype *object, const QRectF &millimetres, const QJsonObject &unknownSettings = {});
     /// The object with the identifier, null without one. The empty text identifies nothing.

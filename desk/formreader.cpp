@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "desk/formreader.h"
 
-#include "core/controlfactory.h"
 #include "core/tavroprototype.h"
 #include "desk/catalogue.h"
 #include "desk/formwords.h"
@@ -145,7 +144,7 @@ private:
         if (!readNumbers(json.value(QLatin1String(formwords::Rect)), path + QStringLiteral(".rect"),
                          QStringLiteral("x, y, width, height"), -MostMillimetres, rect))
             return false;
-        TavroPrototype *object = ControlFactory::factory(kind);
+        TavroPrototype *object = Form::newObject(kind);
         m_form->addObject(object, {rect[0], rect[1], rect[2], rect[3]});
         return readSettings(object, json, path);
     }

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "desk/formwriter.h"
 
-#include "core/controlfactory.h"
 #include "core/tavroprototype.h"
 #include "desk/catalogue.h"
 #include "desk/form.h"
@@ -41,7 +40,7 @@ private:
     {
         std::unique_ptr<TavroPrototype> &object = (*objects)[kind];
         if (!object)
-            object.reset(ControlFactory::factory(kind));
+            object.reset(Form::newObject(kind));
         return object.get();
     }
 

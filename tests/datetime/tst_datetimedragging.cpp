@@ -67,6 +67,8 @@ class TestDatetimeDragging : public StrictTest
 private Q_SLOTS:
     void rebuildWhileAnEditorIsDragged_data() { addRebuildRows(); }
     void rebuildWhileAnEditorIsDragged();
+    void rebuildAtTheEndOfADrag();
+    void widgetsOfAHost();
     void rebuildWhileAnObjectIsDragged_data() { addRebuildRows(); }
     void rebuildWhileAnObjectIsDragged();
     void eventLoopTurnsWhileDragged();
@@ -94,6 +96,52 @@ void TestDatetimeDragging::rebuildWhileAnEditorIsDragged()
     QVERIFY(moves > 0);
     QTRY_COMPARE(rowOf(*dates), QString::fromUtf8(Rebuilds.at(index).row));
     QCOMPARE(dates->findChildren<QLabel *>().size(), dates->count());
+}
+
+void TestDatetimeDragging::rebuildAtTheEndOfADrag()
+{
+    const auto made = editor(false);
+    auto *dates = static_cast<DateEdit *>(made.get());
+    // The sections follow when the button is released.
+    dates->setOpaqueResize(false);
+    dates->show();
+    QVERIFY(QTest::qWaitForWindowExposed(dates));
+    const QPointer<QSplitterHandle> handle = dates->handle(3);
+    int moves = 0;
+    connect(dates, &QSplitter::splitterMoved, dates, [&] {
+        ++moves;
+        dates->setSeperatorType(Sep_Slash);
+        QVERIFY(!handle.isNull());
+    });
+    const QPoint from = dates->handle(3)->geometry().center();
+    QWindow *window = dates->windowHandle();
+    QTest::mousePress(window, Qt::LeftButton, Qt::NoModifier, from);
+    QTest::mouseMove(window, from + QPoint(9, 0));
+    QCOMPARE(moves, 0);
+    QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, from + QPoint(9, 0));
+    QCOMPARE(moves, 1);
+    QTRY_COMPARE(dates->count(), 5);
+    QVERIFY(handle.isNull());
+}
+
+// The rows of a splitter take in whatever a host makes their child.
+void TestDatetimeDragging::widgetsOfAHost()
+{
+    DateEdit dates;
+    dates.addWidget(new QWidget);
+    DateEdit none;
+    none.setSeperatorType(Sep_ChineseTime);
+    none.addWidget(new QWidget);
+    QImage image(100, 20, QImage::Format_RGB32);
+    QPainter painter(&image);
+    for (DateEdit *edit : {&dates, &none}) {
+        edit->setDateTime(QDateTime(QDate(2022, 1, 5), QTime(8, 5, 9)));
+        edit->setFont(QFont(QStringLiteral("DejaVu Sans"), 9));
+        edit->paintSections(&painter, QRectF(0, 0, 100, 20));
+    }
+    QCOMPARE(dates.count(), 7);
+    QCOMPARE(qobject_cast<QLabel *>(dates.widget(0))->text(), QStringLiteral("2022"));
+    QCOMPARE(none.count(), 1);
 }
 
 void TestDatetimeDragging::rebuildWhileAnObjectIsDragged()

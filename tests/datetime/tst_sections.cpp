@@ -26,6 +26,8 @@ private Q_SLOTS:
     void otherSeperatorTypes();
     void wholePixels_data();
     void wholePixels();
+    void truncatedPixel_data();
+    void truncatedPixel();
 
 private:
     static void addOrdinaryRectangles();
@@ -235,6 +237,23 @@ void SectionsTest::wholePixels()
 {
     QFETCH(const QRectF, rect);
     QTEST(sections::wholePixels(rect), "pixels");
+}
+
+void SectionsTest::truncatedPixel_data()
+{
+    QTest::addColumn<double>("pixels");
+    QTest::addColumn<int>("truncated");
+    QTest::newRow("towards zero") << 40.9 << 40;
+    QTest::newRow("negative, towards zero") << -40.9 << -40;
+    QTest::newRow("above the widest") << 1e10 << 16777215;
+    QTest::newRow("infinite") << -std::numeric_limits<double>::infinity() << -16777215;
+    QTest::newRow("not a number") << std::numeric_limits<double>::quiet_NaN() << 0;
+}
+
+void SectionsTest::truncatedPixel()
+{
+    QFETCH(double, pixels);
+    QTEST(sections::truncatedPixel(pixels), "truncated");
 }
 
 QTEST_APPLESS_MAIN(SectionsTest)

@@ -298,6 +298,7 @@ void TestTavroDatetimePainting::printedRowsAreSeenAtOnce_data()
     QTest::newRow("date order") << 3;
     QTest::newRow("widths") << 4;
     QTest::newRow("content written back") << 5;
+    QTest::newRow("time order") << 6;
 }
 
 // A preview of the paper has no editor that repaints itself.
@@ -308,7 +309,7 @@ void TestTavroDatetimePainting::printedRowsAreSeenAtOnce()
     QVERIFY(form.isActive());
     auto *made = new Counting;
     made->setBoundingRect(Boxes);
-    made->setDateTimeFormat(Dt_ArabicPadded);
+    made->setDateTimeFormat(setter == 6 ? Dt_Time : Dt_ArabicPadded);
     made->setPaintMode(Paint_Print);
     form.scene().addItem(made);
     QTRY_VERIFY(made->m_paints > 0);
@@ -324,6 +325,8 @@ void TestTavroDatetimePainting::printedRowsAreSeenAtOnce()
         made->setDateOrderType(Order_DMY);
     else if (setter == 4)
         made->setSplitSizes({60, 16, 20, 16, 20, 16});
+    else if (setter == 6)
+        made->setTimeOrderType(Order_HM);
     else
         made->syncContentData();
     QTRY_VERIFY(made->m_paints > before);

@@ -311,6 +311,22 @@ void BarcodesTest::values_data()
     add("7 digits", R"({"symbology":"ean8","preset":"6901234"})", {});
     add("6 digits", R"({"symbology":"ean8","preset":"690123"})", miscounted("690123", 7));
     add("8 digits", R"({"symbology":"ean8","preset":"69012341"})", miscounted("69012341", 7));
+    const auto refused = [](const char *value, const char *expectation) {
+        return QStringLiteral("invalid value \"%1\", the symbology takes %2")
+            .arg(QString::fromLatin1(value), QString::fromLatin1(expectation));
+    };
+    add("UPC-A with fewer digits", R"({"symbology":"upcA","preset":"1234567"})", {});
+    add("UPC-A with an add-on", R"({"symbology":"upcA","preset":"01234567890+12"})",
+        refused("01234567890+12", "digits"));
+    add("UPC-E", R"({"symbology":"upcE","preset":"1234567"})", {});
+    add("UPC-E with fewer digits", R"({"symbology":"upcE","preset":"234567"})", {});
+    add("UPC-E of another system", R"({"symbology":"upcE","preset":"2345678"})",
+        refused("2345678", "7 digits, the first of them 0 or 1"));
+    add("odd number of digits", R"({"symbology":"interleaved2of5","preset":"123"})",
+        refused("123", "an even number of digits"));
+    add("small letters in Code 39", R"({"symbology":"code39","preset":"Tavro"})", refused("Tavro", "capitals"));
+    add("small letters in a label of health care", R"({"symbology":"hibcCode128","preset":"a123"})",
+        refused("a123", "capitals"));
     add("letters in digits", R"({"symbology":"interleaved2of5","preset":"12A4"})", unencodable("12A4"));
     add("Chinese in bars", R"({"symbology":"code39","preset":"壹万"})", unencodable("壹万"));
     add("wrong check digit", R"({"symbology":"upcA","preset":"012345678901"})", unencodable("012345678901"));

@@ -69,8 +69,10 @@ void DateCheckingTest::values_data()
     add("time", "23:59", true);
     add("time", "2022-01-05T08:05", true);
     add("time", "2022-01-05", false);
-    for (const char *value : {"2022-01-05", "2022-01-05T08:05:09", "08:05"})
-        add("custom", value, true);
+    // The pattern shows a date.
+    add("custom", "2022-01-05", true);
+    add("custom", "2022-01-05T08:05:09", true);
+    add("custom", "08:05", false);
     for (const char *format : {"arabic", "time", "custom"}) {
         for (const char *value : {"yesterday",
                                   "2022-02-30",
@@ -141,6 +143,14 @@ void DateCheckingTest::required_data()
         R"(required, but "2022-01-05" prints nothing)");
     add("{}", "");
     add(R"({"separator":"chineseTime"})", "");
+    add(R"({"preset":"2022-01-05","separator":"chineseTime"})", R"("2022-01-05" prints nothing)");
+    add(R"({"preset":"2022-01-05","separator":"chineseTime","print":false})", "");
+    add(R"({"format":"time","preset":"08:05","separator":"chineseDate"})", R"("08:05" prints nothing)");
+    add(R"({"format":"custom","customPattern":"HH:mm","preset":"08:05"})", "");
+    add(R"({"format":"custom","customPattern":"HH:mm","preset":"2022-01-05"})", R"(invalid value "2022-01-05")");
+    add(R"({"format":"custom","customPattern":"yyyy HH","preset":"2022-01-05"})", R"(invalid value "2022-01-05")");
+    add(R"({"format":"custom","customPattern":"'Mm'HH","preset":"08:05"})", "");
+    add(R"({"format":"custom","customPattern":"'HH'yyyy","preset":"2022-01-05"})", "");
 }
 
 void DateCheckingTest::required()
