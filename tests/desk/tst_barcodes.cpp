@@ -90,6 +90,7 @@ private Q_SLOTS:
     void sizes();
     void finestModule_data();
     void finestModule();
+    void guardsOfACoarseForm();
 };
 
 void BarcodesTest::symbologies_data()
@@ -396,6 +397,18 @@ void BarcodesTest::sizes_data()
     QTest::newRow("bars") << QRectF(10, 10, 50, 10) << bars << QString();
     QTest::newRow("text is all there is") << QRectF(10, 10, 50, 3) << bars << misfit("Tavro 42");
     QTest::newRow("no text") << QRectF(10, 10, 50, 3) << silent << QString();
+    const QString low = QStringLiteral("symbol too low to be read: \"Tavro 42\"");
+    QTest::newRow("bars of 2 mm") << QRectF(10, 10, 50, 2) << silent << QString();
+    QTest::newRow("bars of less") << QRectF(10, 10, 50, 1.9) << silent << low;
+    QTest::newRow("no height at all") << QRectF(10, 10, 50, 0) << silent << low;
+    const QByteArray ean = R"({"symbology":"ean13","preset":"690123456789"})";
+    const QString crowded = QStringLiteral("digits run into each other below modules of this width: \"690123456789\"");
+    QTest::newRow("digits of an EAN") << QRectF(10, 10, 31, 15) << ean << QString();
+    QTest::newRow("crowded digits") << QRectF(10, 10, 23.4, 15) << ean << crowded;
+    QTest::newRow("no digits to crowd") << QRectF(10, 10, 23.4, 15)
+                                        << QByteArray(
+                                               R"({"symbology":"ean13","preset":"690123456789","readableText":false})")
+                                        << QString();
     const QByteArray limited = R"({"symbology":"dataBarLimited","preset":"0690123456789"})";
     QTest::newRow("text wider than the bars") << QRectF(10, 10, 20, 15) << limited << misfit("0690123456789");
     QTest::newRow("text as wide as the bars") << QRectF(10, 10, 36, 15) << limited << QString();
@@ -443,6 +456,23 @@ void BarcodesTest::finestModule()
     const std::unique_ptr<Form> form = deskforms::readFile(file);
     QVERIFY(form);
     QCOMPARE(checking::problems(*form), named(problem));
+}
+
+// Guard bars are 10 px longer than the others, at every scale of a form.
+void BarcodesTest::guardsOfACoarseForm()
+{
+    const QRectF place(10, 10, 60, 40);
+    const QByteArray ean = R"({"symbology":"ean13","preset":"690123456789"})";
+    for (const double scale : {1.0, 8.0}) {
+        QJsonObject file = deskforms::file({barcode(place, ean)});
+        file.insert(QStringLiteral("pixelsPerMillimetre"), scale);
+        const std::unique_ptr<Form> form = deskforms::readFile(file);
+        QVERIFY(form);
+        const QString problem =
+            QStringLiteral("guard bars stick out of the rectangle, the form has too few pixels per millimetre: "
+                           "\"690123456789\"");
+        QCOMPARE(checking::problems(*form), named(scale < 2 ? problem : QString()));
+    }
 }
 
 QTEST_MAIN(BarcodesTest)
