@@ -19,8 +19,8 @@ constexpr int GuardExtension = 10;
 // Office printers and hand-held scanners do not tell finer modules apart.
 constexpr double FinestModule = 0.19; // mm
 
-// Lower symbols are missed by hand-held scanners, or are no more than a line.
-constexpr double LeastHeight = 2; // mm
+// Lower bars are missed by hand-held scanners, or are no more than a line.
+constexpr double LeastBars = 2; // mm
 
 // Lengths come out of divisions by the scale.
 constexpr double Rounding = 1e-6;
@@ -50,6 +50,13 @@ const Rule *ruleOf(int symbology)
             return &rule;
     }
     return nullptr;
+}
+
+// Whether the symbol is one row of bars.
+bool hasBars(int symbology)
+{
+    static const QVector<int> all{-2, -1, 2, 3, 4, 6, 7, 8, 16, 20, 29, 30, 31, 32, 34, 37, 47, 60, 72, 86, 98, 99};
+    return all.contains(symbology);
 }
 
 // Digits of a symbology that stand in one group between guards, and the modules that they have.
@@ -103,16 +110,28 @@ QString problemOfValue(const TavroBarcode &object, double columns)
     return {};
 }
 
-// The digits below the bars of EAN and UPC, in the size in which they are printed.
-QString problemOfDigits(const TavroBarcode &object, double module)
+// The readable text, in the size in which it is printed.
+QFontMetricsF textMetrics(const TavroBarcode &object)
 {
     constexpr double points = 9;
+    QFont font(QStringLiteral("Arial"));
+    font.setPixelSize(object.pointSzToPixSz(points));
+    return QFontMetricsF(font);
+}
+
+// Height of the bars alone, px. Those of EAN and UPC leave room for digits with digits and without.
+double barsOf(const TavroBarcode &object, double symbolHeight)
+{
+    const bool hasBand = object.hasReadableTxt() || digitGroupOf(object.symbology());
+    return symbolHeight - (hasBand ? textMetrics(object).height() : 0);
+}
+
+QString problemOfDigits(const TavroBarcode &object, double module)
+{
     const DigitGroup *group = digitGroupOf(object.symbology());
     if (!group)
         return {};
-    QFont font(QStringLiteral("Arial"));
-    font.setPixelSize(object.pointSzToPixSz(points));
-    const QFontMetricsF metrics(font);
+    const QFontMetricsF metrics = textMetrics(object);
     if (metrics.height() < GuardExtension)
         return QStringLiteral("guard bars stick out of the rectangle, the form has too few pixels per millimetre");
     const double width = metrics.horizontalAdvance(QString(group->digits, QLatin1Char('0')));
@@ -135,8 +154,8 @@ QString problemOfSize(TavroBarcode &object, double columns)
     if (millimetres < FinestModule - Rounding)
         return QStringLiteral("symbol too fine to be read, with modules of %1 mm: %2")
             .arg(QString::number(millimetres, 'f', 3), content);
-    if (symbol.height() * scale < LeastHeight - Rounding)
-        return QStringLiteral("symbol too low to be read: %1").arg(content);
+    if (hasBars(object.symbology()) && barsOf(object, symbol.height()) * scale < LeastBars - Rounding)
+        return QStringLiteral("bars too low to be read: %1").arg(content);
     const QString problem = problemOfDigits(object, module);
     return problem.isEmpty() ? QString() : QStringLiteral("%1: %2").arg(problem, content);
 }

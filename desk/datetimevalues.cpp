@@ -20,7 +20,7 @@ struct Value
     QDate date;
     QTime time;
 
-    // A time alone is kept on a day of its own, which is never shown.
+    // A time alone is kept on a day of its own. A check refuses what would show it.
     QDateTime dateTime() const
     {
         if (date.isNull() && time.isNull())

@@ -397,9 +397,16 @@ void BarcodesTest::sizes_data()
     QTest::newRow("bars") << QRectF(10, 10, 50, 10) << bars << QString();
     QTest::newRow("text is all there is") << QRectF(10, 10, 50, 3) << bars << misfit("Tavro 42");
     QTest::newRow("no text") << QRectF(10, 10, 50, 3) << silent << QString();
-    const QString low = QStringLiteral("symbol too low to be read: \"Tavro 42\"");
+    const QString low = QStringLiteral("bars too low to be read: \"Tavro 42\"");
     QTest::newRow("bars of 2 mm") << QRectF(10, 10, 50, 2) << silent << QString();
     QTest::newRow("bars of less") << QRectF(10, 10, 50, 1.9) << silent << low;
+    QTest::newRow("bars above their text") << QRectF(10, 10, 50, 6.5) << bars << QString();
+    QTest::newRow("bars lower than their text allows") << QRectF(10, 10, 50, 5) << bars << low;
+    QTest::newRow("low bars of an EAN") << QRectF(10, 10, 31, 5)
+                                        << QByteArray(R"({"symbology":"ean13","preset":"690123456789"})")
+                                        << QStringLiteral("bars too low to be read: \"690123456789\"");
+    QTest::newRow("small square") << QRectF(10, 10, 1.95, 1.95)
+                                  << QByteArray(R"({"symbology":"dataMatrix","preset":"12"})") << QString();
     QTest::newRow("no height at all") << QRectF(10, 10, 50, 0) << silent << low;
     const QByteArray ean = R"({"symbology":"ean13","preset":"690123456789"})";
     const QString crowded = QStringLiteral("digits run into each other below modules of this width: \"690123456789\"");
