@@ -3,11 +3,11 @@
 #include "graphic/tavroline.h"
 #include "graphic/tavrorect.h"
 #include "tests/support/stricttest.h"
+#include "tests/support/virtualslots.h"
 
 #include <QMetaProperty>
 #include <QSignalSpy>
 #include <QTest>
-#include <cstring>
 
 namespace {
 
@@ -73,16 +73,6 @@ QStringList signalsOf(const QMetaObject &meta)
 }
 
 #if defined(__GXX_ABI_VERSION) && defined(__x86_64__)
-// Place of a virtual operation among the slots of its class: a pointer to a virtual member holds one plus its offset.
-template <typename Member>
-std::ptrdiff_t slotOf(Member member)
-{
-    static_assert(sizeof(member) == 2 * sizeof(std::ptrdiff_t), "pointer and adjustment");
-    std::ptrdiff_t words[2];
-    std::memcpy(words, &member, sizeof(member));
-    return words[1] == 0 && words[0] % 2 == 1 ? words[0] / static_cast<std::ptrdiff_t>(sizeof(void *)) : -1;
-}
-
 // Reaches the protected operations.
 class PrototypeProbe : public TavroPrototype
 {
