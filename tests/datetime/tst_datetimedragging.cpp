@@ -132,9 +132,13 @@ void TestDatetimeDragging::widgetsOfAHost()
     DateEdit none;
     none.setSeperatorType(Sep_ChineseTime);
     none.addWidget(new QWidget);
+    DateEdit first;
+    first.insertWidget(0, new QWidget);
+    DateEdit fewer;
+    delete fewer.widget(5);
     QImage image(100, 20, QImage::Format_RGB32);
     QPainter painter(&image);
-    for (DateEdit *edit : {&dates, &none}) {
+    for (DateEdit *edit : {&dates, &none, &first, &fewer}) {
         edit->setDateTime(QDateTime(QDate(2022, 1, 5), QTime(8, 5, 9)));
         edit->setFont(QFont(QStringLiteral("DejaVu Sans"), 9));
         edit->paintSections(&painter, QRectF(0, 0, 100, 20));
@@ -142,6 +146,14 @@ void TestDatetimeDragging::widgetsOfAHost()
     QCOMPARE(dates.count(), 7);
     QCOMPARE(qobject_cast<QLabel *>(dates.widget(0))->text(), QStringLiteral("2022"));
     QCOMPARE(none.count(), 1);
+    QCOMPARE(first.count(), 7);
+    QCOMPARE(fewer.count(), 5);
+    // New sections bring the row in order again.
+    for (DateEdit *edit : {&first, &fewer}) {
+        edit->setSeperatorType(Sep_Dash);
+        QCOMPARE(edit->count(), 5);
+        QCOMPARE(qobject_cast<QLabel *>(edit->widget(4))->text(), QStringLiteral("5"));
+    }
 }
 
 void TestDatetimeDragging::rebuildWhileAnObjectIsDragged()
