@@ -13,16 +13,6 @@ constexpr int Ean13Symbology = -2;
 constexpr double ResetModuleWidth = 3;
 constexpr double ResetBarHeight = 80;
 
-bool movesLeftEdge(HandleDirect direction)
-{
-    return direction == Handle_TopLeft || direction == Handle_Left || direction == Handle_BottomLeft;
-}
-
-bool movesTopEdge(HandleDirect direction)
-{
-    return direction == Handle_TopLeft || direction == Handle_Top || direction == Handle_TopRight;
-}
-
 // Whether an edge was dragged past the opposite one. One that is dropped exactly on it has not passed, and stays so
 // through the rounding of a point that is mapped into a turned object.
 bool hasPassed(double extent)
@@ -77,8 +67,8 @@ void TavroBarcode::resize(HandleDirect direction, const QPointF &scenePoint)
     // The symbol stands at the edges that stay, on the side to which the others were dragged.
     const double width = hasPassed(dragged.width()) ? -actual.width() : actual.width();
     const double height = hasPassed(dragged.height()) ? -actual.height() : actual.height();
-    const QPointF corner(movesLeftEdge(direction) ? rect.right() - width : rect.left(),
-                         movesTopEdge(direction) ? rect.bottom() - height : rect.top());
+    const QPointF corner(resizing::movesLeftEdge(direction) ? rect.right() - width : rect.left(),
+                         resizing::movesTopEdge(direction) ? rect.bottom() - height : rect.top());
     setBoundingRect(QRectF(corner, QSizeF(width, height)).normalized());
 }
 

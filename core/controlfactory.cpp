@@ -4,11 +4,15 @@
 #include "barcode/tavrobarcode.h"
 #include "cells/tavrofinancialedit.h"
 #include "cells/tavroseperateedit.h"
+#include "choice/tavrocheckbox.h"
+#include "choice/tavrocombx.h"
 #include "datetime/tavrodatetime.h"
 #include "entry/tavroedit.h"
 #include "entry/tavrolabel.h"
 #include "graphic/tavroline.h"
+#include "graphic/tavropicture.h"
 #include "graphic/tavrorect.h"
+#include "graphic/tavrotable.h"
 
 TavroPrototype *ControlFactory::factory(ObjType kind)
 {
@@ -23,12 +27,20 @@ TavroPrototype *ControlFactory::factory(ObjType kind)
         return new TavroFinancialEdit;
     case Obj_SeperateEdit:
         return new TavroSeperateEdit;
+    case Obj_CheckBox:
+        return new TavroCheckBox;
     case Obj_Label:
         return new TavroLabel;
+    case Obj_Combx:
+        return new TavroCombx;
     case Obj_Datetime:
         return new TavroDatetime;
+    case Obj_Picture:
+        return new TavroPicture;
     case Obj_Barcode:
         return new TavroBarcode;
+    case Obj_Table:
+        return new TavroTable;
     default:
         return nullptr;
     }

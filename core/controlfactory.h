@@ -10,7 +10,7 @@ class TavroPrototype;
 class TAVRO_EXPORT ControlFactory
 {
 public:
-    /// New object of the kind, in design mode, without a parent; the caller owns it. Null for a kind that does not
-    /// exist (0, negative, above 12) or has no class yet.
+    /// New object of the kind, in design mode, without a parent; the caller owns it. Null for a number that
+    /// names no kind: 0, negative ones, those above 12.
     static TavroPrototype *factory(ObjType kind);
 };

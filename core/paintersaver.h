@@ -42,3 +42,19 @@ private:
     qreal m_opacity;
     QPainter::RenderHints m_hints;
 };
+
+/// Keeps everything of a painter for the length of a scope, where the clip or the transform changes too.
+class WholePainterSaver
+{
+public:
+    explicit WholePainterSaver(QPainter *painter)
+        : m_painter(painter)
+    {
+        m_painter->save();
+    }
+    ~WholePainterSaver() { m_painter->restore(); }
+    Q_DISABLE_COPY(WholePainterSaver)
+
+private:
+    QPainter *m_painter;
+};

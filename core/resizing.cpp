@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "core/resizing.h"
 
+#include <algorithm>
 #include <array>
+#include <cmath>
 
 namespace resizing {
 
@@ -54,6 +56,33 @@ QRectF resized(const QRectF &rect, HandleDirect direction, const QPointF &point)
         height = point.y() - y;
     }
     return {x, y, width, height};
+}
+
+QRectF resizedInProportion(const QRectF &rect, HandleDirect direction, const QPointF &point)
+{
+    if (!isNamed(direction) || direction == Handle_Center)
+        return rect;
+    const double ratio = rect.width() * rect.height() == 0 ? 1 : std::abs(rect.width() / rect.height());
+    const QRectF dragged = resized(rect, direction, point);
+    double width = std::abs(dragged.width());
+    if (isCorner(direction))
+        width = std::min(width, std::abs(dragged.height()) * ratio);
+    else if (direction == Handle_Top || direction == Handle_Bottom)
+        width = std::abs(dragged.height()) * ratio;
+    const QSizeF box(std::copysign(width, dragged.width()), std::copysign(width / ratio, dragged.height()));
+    return {QPointF(movesLeftEdge(direction) ? rect.right() - box.width() : rect.left(),
+                    movesTopEdge(direction) ? rect.bottom() - box.height() : rect.top()),
+            box};
+}
+
+bool movesLeftEdge(HandleDirect direction)
+{
+    return isNamed(direction) && Anchors[static_cast<std::size_t>(direction)].x == 0;
+}
+
+bool movesTopEdge(HandleDirect direction)
+{
+    return isNamed(direction) && Anchors[static_cast<std::size_t>(direction)].y == 0;
 }
 
 bool isCorner(HandleDirect direction)

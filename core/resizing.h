@@ -15,6 +15,16 @@ QPointF handleAnchor(const QRectF &rect, HandleDirect direction);
 /// dragged past the opposite one gives a negative size. Handle_Center and beyond change nothing.
 QRectF resized(const QRectF &rect, HandleDirect direction, const QPointF &point);
 
+/// Likewise, with the proportions of `rect`, or those of a square where it is empty. A corner: the largest box that
+/// fits between the corner that stays and the point, so that the shorter side governs and the box shrinks to nothing on
+/// the way into another quadrant, instead of leaping there. An edge: its own distance governs, and of the edges beside
+/// it the left or upper one stays.
+QRectF resizedInProportion(const QRectF &rect, HandleDirect direction, const QPointF &point);
+
+/// Whether the handle owns the left edge, or the upper one.
+bool movesLeftEdge(HandleDirect direction);
+bool movesTopEdge(HandleDirect direction);
+
 /// Whether the handle stands on a corner; only corners are shown on proportional objects.
 bool isCorner(HandleDirect direction);
 

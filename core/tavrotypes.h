@@ -135,6 +135,23 @@ enum DateOrderType : int {
 /// Sections of a time, from the left: hour, minute, second. Others have none.
 enum TimeOrderType : int { Order_HMS = 0, Order_HM = 1 };
 
+/// How a check box shows its state: the image of the checked state, then those of the unchecked and the partially
+/// checked one. Others show nothing in any state.
+enum Check_Style : int {
+    EmptyTick = 0,     ///< tick; nothing; nothing
+    CrossTick = 1,     ///< tick; cross; cross
+    EmptyCircle = 2,   ///< circle; nothing; nothing
+    CrossCircle = 3,   ///< circle; cross; cross
+    EmptyTickBlock = 4 ///< block; nothing; tick
+};
+
+/// How a picture is fitted into its rectangle. Others leave it where it was drawn last.
+enum Picture_Fill_Mode : int {
+    Picture_Fit = 0,     ///< scaled to the rectangle and centred, keeps its proportions
+    Picture_Stretch = 1, ///< over the whole rectangle
+    Picture_Actual = 2   ///< a pixel for a pixel, in the top left corner
+};
+
 /// Names the database column that an object is bound to. The library stores it and opens no database.
 struct _Database_Table_Col
 {

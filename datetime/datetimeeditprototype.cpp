@@ -2,6 +2,7 @@
 #include "datetime/datetimeeditprototype.h"
 
 #include "core/paintersaver.h"
+#include "core/pixels.h"
 #include "datetime/sections.h"
 
 #include <QLabel>
@@ -145,7 +146,7 @@ void DateTimeEditPrototype::paintSections(QPainter *painter, const QRectF &rect)
     painter->setPen(Qt::black);
     painter->setBrush(Qt::NoBrush);
     painter->setFont(m_font);
-    const QRect row = sections::wholePixels(rect);
+    const QRect row = pixels::rounded(rect);
     const QList<int> widths = sizes();
     int x = row.x();
     for (int i = 0; i < labelCount(); ++i) {

@@ -2,7 +2,6 @@
 #include "datetime/sections.h"
 
 #include <QStringView>
-#include <cmath>
 
 namespace sections {
 
@@ -79,13 +78,6 @@ QVector<Label> labelsOf(const Places &places, Datetime_Seperator_Type type, bool
     return {};
 }
 
-// Within what a widget can have, and a number.
-double bounded(double pixels)
-{
-    constexpr double most = (1 << 24) - 1;
-    return std::isnan(pixels) ? 0 : qBound(-most, pixels, most);
-}
-
 } // namespace
 
 Places placesOf(DateOrderType order)
@@ -106,17 +98,6 @@ QVector<Label> dateLabels(const Places &places, Datetime_Seperator_Type type, bo
 QVector<Label> timeLabels(const Places &places, Datetime_Seperator_Type type, bool isShown)
 {
     return labelsOf(places, type, isShown, Sep_ChineseTime, TimeWords);
-}
-
-QRect wholePixels(const QRectF &rect)
-{
-    return {qRound(bounded(rect.x())), qRound(bounded(rect.y())), qRound(bounded(rect.width())),
-            qRound(bounded(rect.height()))};
-}
-
-int truncatedPixel(double pixels)
-{
-    return static_cast<int>(bounded(pixels));
 }
 
 } // namespace sections

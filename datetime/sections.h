@@ -3,7 +3,6 @@
 
 #include "core/tavrotypes.h"
 
-#include <QRect>
 #include <QString>
 #include <QVector>
 #include <array>
@@ -30,11 +29,5 @@ struct Label
 /// blanks, a hidden mark one. Empty for a separator type that the row does not have.
 QVector<Label> dateLabels(const Places &places, Datetime_Seperator_Type type, bool isShown);
 QVector<Label> timeLabels(const Places &places, Datetime_Seperator_Type type, bool isShown);
-
-/// Rectangle of an editor over that of an object: place and size rounded each on its own, halves upwards, and bounded
-/// to what a widget can have.
-QRect wholePixels(const QRectF &rect);
-/// Cut off towards zero, with the same bounds.
-int truncatedPixel(double pixels);
 
 } // namespace sections

@@ -2,6 +2,7 @@
 #include "datetime/tavrodatetime.h"
 
 #include "core/paintersaver.h"
+#include "core/pixels.h"
 #include "datetime/dateedit.h"
 #include "datetime/sections.h"
 #include "datetime/timeedit.h"
@@ -192,7 +193,7 @@ void TavroDatetime::setTimeOrderType(const TimeOrderType &order)
 QList<int> TavroDatetime::splitSizes() const
 {
     if (isCustomSection())
-        return {sections::truncatedPixel(width())};
+        return {pixels::truncated(width())};
     const DateTimeEditPrototype *editor = currentEditor();
     return editor ? editor->sizes() : QList<int>();
 }
@@ -247,7 +248,7 @@ void TavroDatetime::syncDateTime()
 
 void TavroDatetime::syncDateTimeEditGeometry()
 {
-    const QRect rect = sections::wholePixels(boundingRect());
+    const QRect rect = pixels::rounded(boundingRect());
     for (DateTimeEditPrototype *editor : editors())
         editor->follow(rect);
     // A hidden editor tells its proxy nothing, which would press it into the old rectangle at the next occasion.

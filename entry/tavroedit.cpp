@@ -2,6 +2,7 @@
 #include "entry/tavroedit.h"
 
 #include "core/paintersaver.h"
+#include "core/pixels.h"
 #include "entry/chineseamount.h"
 #include "entry/englishamount.h"
 #include "entry/inputformat.h"
@@ -15,7 +16,6 @@
 #include <QPainter>
 #include <QSignalBlocker>
 #include <QTimer>
-#include <cmath>
 
 namespace {
 
@@ -25,13 +25,6 @@ QString textOf(const QVariant &value)
     if (type == QMetaType::Double || type == QMetaType::Float)
         return QString::number(value.toDouble(), 'g', 6);
     return value.toString();
-}
-
-// QRectF::toRect() in floating point: no size overflows an int.
-QRectF onWholePixels(const QRectF &rect)
-{
-    const auto rounded = [](qreal coordinate) { return std::floor(coordinate + 0.5); };
-    return {QPointF(rounded(rect.left()), rounded(rect.top())), QPointF(rounded(rect.right()), rounded(rect.bottom()))};
 }
 
 } // namespace
@@ -436,7 +429,7 @@ void TavroEdit::syncTextEditGeometry()
     if (!m_widgetPrxy)
         return;
     const qreal inset = borderWpx();
-    m_widgetPrxy->setGeometry(onWholePixels(boundingRect()).adjusted(inset, inset, -inset, -inset));
+    m_widgetPrxy->setGeometry(pixels::edgesRounded(boundingRect()).adjusted(inset, inset, -inset, -inset));
 }
 
 void TavroEdit::syncTextEditFont()
