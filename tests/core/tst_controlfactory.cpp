@@ -2,12 +2,16 @@
 #include "barcode/tavrobarcode.h"
 #include "cells/tavrofinancialedit.h"
 #include "cells/tavroseperateedit.h"
+#include "choice/tavrocheckbox.h"
+#include "choice/tavrocombx.h"
 #include "core/controlfactory.h"
 #include "datetime/tavrodatetime.h"
 #include "entry/tavroedit.h"
 #include "entry/tavrolabel.h"
 #include "graphic/tavroline.h"
+#include "graphic/tavropicture.h"
 #include "graphic/tavrorect.h"
+#include "graphic/tavrotable.h"
 #include "tests/support/itemprobes.h"
 #include "tests/support/stricttest.h"
 
@@ -44,9 +48,13 @@ void TestControlFactory::kinds_data()
     row(3, TavroEdit::staticMetaObject, true);
     row(4, TavroFinancialEdit::staticMetaObject, true);
     row(5, TavroSeperateEdit::staticMetaObject, true);
+    row(6, TavroCheckBox::staticMetaObject, true);
     row(7, TavroLabel::staticMetaObject, true);
+    row(8, TavroCombx::staticMetaObject, false);
     row(9, TavroDatetime::staticMetaObject, false);
+    row(10, TavroPicture::staticMetaObject, false);
     row(11, TavroBarcode::staticMetaObject, true);
+    row(12, TavroTable::staticMetaObject, false);
 }
 
 void TestControlFactory::kinds()
@@ -76,11 +84,6 @@ void TestControlFactory::noKinds_data()
     QTest::newRow("far above") << 1000;
     QTest::newRow("unset") << -1;
     QTest::newRow("smallest number") << std::numeric_limits<int>::min();
-    // Named, but without a class yet.
-    QTest::newRow("check box") << 6;
-    QTest::newRow("combo box") << 8;
-    QTest::newRow("picture") << 10;
-    QTest::newRow("table") << 12;
 }
 
 void TestControlFactory::noKinds()
