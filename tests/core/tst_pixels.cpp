@@ -75,7 +75,7 @@ void PixelsTest::rounded()
 
 void PixelsTest::truncated_data()
 {
-    QTest::addColumn<double>("whole");
+    QTest::addColumn<double>("length");
     QTest::addColumn<int>("truncated");
     QTest::newRow("towards zero") << 40.9 << 40;
     QTest::newRow("negative, towards zero") << -40.9 << -40;
@@ -86,8 +86,8 @@ void PixelsTest::truncated_data()
 
 void PixelsTest::truncated()
 {
-    QFETCH(double, pixels);
-    QTEST(pixels::truncated(pixels), "truncated");
+    QFETCH(double, length);
+    QTEST(pixels::truncated(length), "truncated");
 }
 
 void PixelsTest::edgesRounded_data()
