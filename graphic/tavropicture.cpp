@@ -5,6 +5,17 @@
 #include "core/pixels.h"
 #include "graphic/imagecoding.h"
 
+namespace {
+
+// As large as fits, with the signs of the box: a box dragged over its opposite side is as wide as its width says.
+QSize scaledInto(const QSize &box, const QSize &size)
+{
+    const QSize scaled = size.scaled(qAbs(box.width()), qAbs(box.height()), Qt::KeepAspectRatio);
+    return {box.width() < 0 ? -scaled.width() : scaled.width(), box.height() < 0 ? -scaled.height() : scaled.height()};
+}
+
+} // namespace
+
 TavroPicture::TavroPicture(QGraphicsItem *parent)
     : TavroPrototype(parent)
 {
@@ -113,7 +124,7 @@ void TavroPicture::scaleImageRect()
     const QRectF rect = boundingRect();
     const QRect whole = pixels::rounded(rect);
     if (!m_image.isNull() && m_fillMode == Picture_Fit) {
-        m_imageRect = QRect(whole.topLeft(), m_image.size().scaled(whole.size(), Qt::KeepAspectRatio));
+        m_imageRect = QRect(whole.topLeft(), scaledInto(whole.size(), m_image.size()));
         m_imageRect.moveCenter(pixels::rounded(QRectF(rect.center(), QSizeF())).topLeft());
     } else if (!m_image.isNull() && m_fillMode == Picture_Stretch) {
         m_imageRect = whole;
