@@ -43,9 +43,19 @@ TavroCombx::TavroCombx(QGraphicsItem *parent)
     setFocusProxy(m_widgetPrxy);
     connect(m_comboBox, &QComboBox::currentTextChanged, this, &TavroCombx::syncContentData);
     connect(m_comboBox, QOverload<int>::of(&QComboBox::activated), this, &TavroCombx::onCurrentIndexChanged);
+    // A hidden object does not hear that the pointer leaves.
+    connect(this, &TavroCombx::visibleChanged, this, [this] {
+        if (m_isLockedByHover && !isVisible())
+            onHoverEvent(false);
+    });
 }
 
-TavroCombx::~TavroCombx() = default;
+TavroCombx::~TavroCombx()
+{
+    // A combo box that loses the keyboard when it goes may still choose what was typed, for an object that is no more.
+    if (m_comboBox)
+        m_comboBox->disconnect(this);
+}
 
 void TavroCombx::setUpComboBox()
 {
@@ -81,6 +91,10 @@ void TavroCombx::setPaintMode(const Paint_Mode &mode)
 {
     TavroText::setPaintMode(mode);
     showHideCombx();
+    // A pointer that stays where it is, enters and leaves nothing.
+    const bool hovered = isReadOnly() && isUnderMouse();
+    if (hovered || m_isLockedByHover)
+        onHoverEvent(hovered);
 }
 
 void TavroCombx::designPaint(QPainter *painter)
@@ -125,7 +139,12 @@ void TavroCombx::setOptionList(const QStringList &options)
     m_comboBox->clear();
     m_comboBox->insertItems(0, options);
     m_comboBox->setCompleter(completer.get());
-    m_completer = std::move(completer);
+    m_completer.swap(completer);
+    // The one before may be at work: its popup passes the keys on to which the host answers with another list.
+    if (completer) {
+        completer->setParent(m_comboBox);
+        completer.release()->deleteLater();
+    }
     // A filled list shows its first option, which nobody chose and the content does not hold.
     m_comboBox->setCurrentIndex(options.indexOf(contentData().toString()));
     syncComboxText();
@@ -181,6 +200,8 @@ void TavroCombx::setBorderColor(const QString &color)
 
 void TavroCombx::syncContentData()
 {
+    if (!m_comboBox)
+        return;
     storeContent(currentText());
     adjustTextStyle();
     syncCombxFont();
@@ -200,7 +221,8 @@ void TavroCombx::syncCombxFont()
     if (!m_comboBox)
         return;
     m_comboBox->setFont(font());
-    m_comboBox->lineEdit()->setFont(font());
+    if (QLineEdit *line = m_comboBox->lineEdit())
+        line->setFont(font());
 }
 
 void TavroCombx::syncCombxGeometry()
@@ -221,12 +243,12 @@ void TavroCombx::showHideCombx()
 
 void TavroCombx::onHoverEvent(bool hovered)
 {
-    const bool isLocking = paintMode() == Paint_Input && isReadOnly();
-    // What was disabled is enabled again, also where it has ceased to be read-only under the pointer.
-    if (m_comboBox && (isLocking || (m_isLockedByHover && !hovered))) {
-        m_comboBox->setEnabled(!hovered);
-        m_isLockedByHover = hovered;
-    }
+    const bool isReadOnlyInput = paintMode() == Paint_Input && isReadOnly();
+    // What was disabled is enabled again, also where it has ceased to be read-only meanwhile.
+    if (!m_comboBox || !(isReadOnlyInput || m_isLockedByHover))
+        return;
+    m_isLockedByHover = isReadOnlyInput && hovered;
+    m_comboBox->setEnabled(!m_isLockedByHover);
 }
 
 void TavroCombx::onCurrentIndexChanged(int index)
