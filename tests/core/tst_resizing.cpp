@@ -21,6 +21,7 @@ private Q_SLOTS:
     void corners();
     void boxCorner_data();
     void boxCorner();
+    void movedEdges();
 };
 
 void TestResizing::handleNumbers()
@@ -157,6 +158,20 @@ void TestResizing::boxCorner()
     QFETCH(QRectF, rect);
     QTEST(resizing::boxCorner(rect, QSizeF(3, 4), true), "leading");
     QTEST(resizing::boxCorner(rect, QSizeF(3, 4), false), "trailing");
+}
+
+void TestResizing::movedEdges()
+{
+    QVector<int> left;
+    QVector<int> top;
+    for (int direction = -1; direction <= 70; ++direction) {
+        if (resizing::movesLeftEdge(static_cast<HandleDirect>(direction)))
+            left.append(direction);
+        if (resizing::movesTopEdge(static_cast<HandleDirect>(direction)))
+            top.append(direction);
+    }
+    QCOMPARE(left, QVector<int>({0, 6, 7}));
+    QCOMPARE(top, QVector<int>({0, 1, 2}));
 }
 
 QTEST_APPLESS_MAIN(TestResizing)
