@@ -130,6 +130,8 @@ QImage decoded(const QByteArray &bytes)
 
 QImage loaded(const QString &path)
 {
+    if (path.isEmpty())
+        return {}; // Qt would warn
     QImageReader reader(path);
     return readFirst(&reader);
 }
