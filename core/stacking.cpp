@@ -11,6 +11,9 @@ QVector<qreal> restacked(const QVector<qreal> &zValues, int moved, Move move)
     // Members from the lowest to the topmost, as indexes into zValues.
     QVector<int> order(zValues.size());
     std::iota(order.begin(), order.end(), 0);
+    // Among members alike, the moved one stands where it is next to a value that differs. An Up would otherwise change
+    // places with one alike, visibly do nothing, and do so again at each further try.
+    order.move(moved, move == Move::Up ? order.size() - 1 : 0);
     std::stable_sort(order.begin(), order.end(), [&](int a, int b) { return zValues.at(a) < zValues.at(b); });
 
     const int last = order.size() - 1;

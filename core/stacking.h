@@ -10,7 +10,8 @@ namespace stacking {
 enum class Move { ToFront, ToBack, Up, Down };
 
 /// New z values, in the order of `zValues` (any order, the moved object at `moved`). An Up of the topmost and a Down of
-/// the lowest member leave every value as it is. Members with equal values keep their order.
+/// the lowest member leave every value as it is. With members alike, an Up and a Down go to the next value that
+/// differs.
 QVector<qreal> restacked(const QVector<qreal> &zValues, int moved, Move move);
 
 } // namespace stacking

@@ -45,6 +45,9 @@ void TestStacking::restacked_data()
         << Values{-1.5, 0, 0.25} << 0 << Move::ToFront << Values{0.25, -1.5, 0};
     QTest::newRow("two alike below") << Values{1, 1, 2} << 0 << Move::ToFront << Values{2, 1, 1};
 
+    QTest::newRow("two alike, one up past a third") << Values{1, 1, 2} << 0 << Move::Up << Values{2, 1, 1};
+    QTest::newRow("two alike, one down past a third") << Values{1, 2, 2} << 2 << Move::Down << Values{2, 2, 1};
+
     const Values alike{7, 7, 7};
     QTest::newRow("all alike to the front") << alike << 0 << Move::ToFront << alike;
     QTest::newRow("all alike to the back") << alike << 1 << Move::ToBack << alike;
