@@ -47,7 +47,14 @@ TavroCheckBox::TavroCheckBox(QGraphicsItem *parent)
     TavroCheckBox::setContentData(0);
 }
 
-TavroCheckBox::~TavroCheckBox() = default;
+TavroCheckBox::~TavroCheckBox()
+{
+    // A check box goes on with itself after the signal in answer to which the host deletes the object.
+    if (m_changes > 0 && m_checkBox && m_widgetPrxy) {
+        m_widgetPrxy->setWidget(nullptr);
+        m_checkBox->deleteLater();
+    }
+}
 
 void TavroCheckBox::renew()
 {
@@ -134,7 +141,11 @@ void TavroCheckBox::syncContentData()
     storeContent(static_cast<int>(m_checkBox->checkState()));
     // Before the signal, in which the host may delete the object.
     repaint();
+    const QPointer<TavroCheckBox> self(this);
+    ++m_changes;
     Q_EMIT contentDataChanged();
+    if (self)
+        --m_changes;
 }
 
 void TavroCheckBox::syncCheckBxState()
@@ -154,7 +165,7 @@ void TavroCheckBox::uncheck()
     const bool isExclusive = group && group->exclusive();
     if (isExclusive)
         group->setExclusive(false);
-    m_checkBox->setCheckState(Qt::Unchecked);
+    m_checkBox->setChecked(false);
     if (isExclusive && group)
         group->setExclusive(true);
 }
@@ -220,7 +231,9 @@ void TavroCheckBox::drawStyle(QPainter *painter, Check_Style style, Qt::CheckSta
 {
     if (style < 0 || style >= static_cast<int>(Symbols.size()))
         return;
-    const symbols::Symbol symbol = Symbols[static_cast<std::size_t>(style)][static_cast<std::size_t>(state)];
+    const auto &byState = Symbols[static_cast<std::size_t>(style)];
+    const auto index = static_cast<std::size_t>(state);
+    const symbols::Symbol symbol = index < byState.size() ? byState[index] : byState[Qt::Unchecked];
     symbols::draw(painter, onWholePixels(boundingRect()), symbol);
 }
 
@@ -228,11 +241,13 @@ void TavroCheckBox::mousePressEvent(QGraphicsSceneMouseEvent *event)
 {
     const QPointer<TavroCheckBox> self(this);
     const bool isInput = paintMode() == Paint_Input;
+    ++m_changes;
     if (isInput)
         click();
     // The host may have cleared its form in answer to the new state.
     if (!self)
         return;
+    --m_changes;
     TavroPrototype::mousePressEvent(event);
     // A field that can be neither selected nor moved lets the press through, and it would tick one below it too.
     if (isInput)

@@ -11,7 +11,8 @@ class QGraphicsProxyWidget;
 /// Tick field: a square that shows a tick, a cross, a circle or a block. The content is a number, the Qt::CheckState
 /// of a check box that is never shown: its place in a QButtonGroup makes a choice of exactly one. A click in input
 /// mode checks and unchecks it; a checked member of an exclusive group can be cleared too. isReadOnly() is not read:
-/// an object that must not be clicked is disabled with setObjEnabled(). A new object counts as modified.
+/// an object that must not be clicked is disabled with setObjEnabled(). The host may delete the object in answer to a
+/// change of its check box. A new object counts as modified.
 class TAVRO_EXPORT TavroCheckBox : public TavroPrototype
 {
     Q_OBJECT
@@ -74,6 +75,8 @@ private:
     void click();
 
     QPointer<QCheckBox> m_checkBox;
+    /// Changes of the check box that are under way, with the slots of the host in them.
+    int m_changes = 0;
     Check_Style m_checkStyle = EmptyTick;
     QPointer<QGraphicsProxyWidget> m_widgetPrxy;
     QString m_checkGroupId;
