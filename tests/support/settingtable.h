@@ -36,11 +36,10 @@ void addSettingRows(const QVector<Setting<Object>> &table)
         QTest::newRow(table.at(i).name) << i;
 }
 
+/// Stores and reads back, and looks at the mark, whatever the object was before.
 template <typename Object>
-void checkSetting(const Setting<Object> &tested)
+void checkStoring(const Setting<Object> &tested, Object &object)
 {
-    Object object;
-    QVERIFY2(tested.isInitial(object), "initial value");
     for (const bool modifiedBefore : {false, true}) {
         // The second round stores an equal value, which marks like any other.
         object.setIsModified(modifiedBefore);
@@ -51,4 +50,12 @@ void checkSetting(const Setting<Object> &tested)
     object.setIsModified(false);
     tested.write(object);
     QCOMPARE(object.isModified(), tested.marksModified);
+}
+
+template <typename Object>
+void checkSetting(const Setting<Object> &tested)
+{
+    Object object;
+    QVERIFY2(tested.isInitial(object), "initial value");
+    checkStoring(tested, object);
 }
