@@ -134,3 +134,28 @@ void BareGrid::paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWidge
     painter->setBrush(Qt::NoBrush);
     painter->drawRect(m_content.border);
 }
+
+BareImage::BareImage(const QRectF &rect, const QRectF &target, const QImage &image, const QPen &borderPen)
+    : m_rect(rect)
+    , m_target(target)
+    , m_image(image)
+    , m_borderPen(borderPen)
+{
+}
+
+QRectF BareImage::boundingRect() const
+{
+    return m_rect;
+}
+
+void BareImage::paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWidget *)
+{
+    painter->setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing | QPainter::SmoothPixmapTransform);
+    if (m_borderPen.style() != Qt::NoPen) {
+        painter->setPen(m_borderPen);
+        painter->setBrush(Qt::NoBrush);
+        painter->drawRect(m_rect.adjusted(0.5, 0.5, -0.5, -0.5));
+    }
+    if (!m_image.isNull())
+        painter->drawImage(m_target, m_image);
+}

@@ -3,6 +3,7 @@
 
 #include <QFont>
 #include <QGraphicsItem>
+#include <QImage>
 #include <QPen>
 #include <QTextOption>
 #include <QVector>
@@ -99,4 +100,19 @@ public:
 private:
     QRectF m_rect;
     Content m_content;
+};
+
+/// An image scaled into a rectangle, with a border around the item where the pen draws one.
+class BareImage : public QGraphicsItem
+{
+public:
+    BareImage(const QRectF &rect, const QRectF &target, const QImage &image, const QPen &borderPen);
+    QRectF boundingRect() const override;
+    void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget) override;
+
+private:
+    QRectF m_rect;
+    QRectF m_target;
+    QImage m_image;
+    QPen m_borderPen;
 };
