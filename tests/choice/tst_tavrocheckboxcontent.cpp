@@ -22,6 +22,7 @@ private Q_SLOTS:
     void syncByHand();
     void signalsOfTheBoxAreOnAgain();
     void renewing();
+    void silentWhileRenewing();
     void notResetAtRenew();
 };
 
@@ -186,6 +187,17 @@ void TestTavroCheckBoxContent::renewing()
     QCOMPARE(box.contentCalls, 1);
     QCOMPARE(box.told.size(), 1);
     QVERIFY(!box.isModified());
+}
+
+// The content is told with the check box held silent, so that nothing echoes from it.
+void TestTavroCheckBoxContent::silentWhileRenewing()
+{
+    ObservedBox box;
+    QVector<bool> blocked;
+    connect(&box, &TavroCheckBox::contentDataChanged, this, [&] { blocked.append(box.checkBx()->signalsBlocked()); });
+    box.renew();
+    box.setContentData(2);
+    QCOMPARE(blocked, QVector<bool>({true, false}));
 }
 
 void TestTavroCheckBoxContent::notResetAtRenew()
