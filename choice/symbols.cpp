@@ -26,7 +26,7 @@ QImage read(Symbol symbol, const QSize &size)
 }
 
 // Reading an image takes twenty times as long as drawing it.
-QImage image(Symbol symbol, const QSize &size)
+QImage fromCache(Symbol symbol, const QSize &size)
 {
     static QCache<quint64, QImage> cache(CacheKilobytes);
     const quint64 key = (quint64(symbol) << 32) | (quint64(size.width()) << 16) | quint64(size.height());
@@ -37,9 +37,20 @@ QImage image(Symbol symbol, const QSize &size)
     return made;
 }
 
+// The fields of a form have one size, as a rule: the image that was drawn last is the next one too.
+const QImage &image(Symbol symbol, const QSize &size)
+{
+    static std::array<QImage, FileNames.size()> last;
+    QImage &found = last[symbol];
+    if (found.size() != size)
+        found = fromCache(symbol, size);
+    return found;
+}
+
 int pixelsAlong(double x, double y)
 {
-    return static_cast<int>(qBound(1.0, std::round(std::hypot(x, y)), double(MostPixels)));
+    const double length = y == 0 ? std::abs(x) : std::hypot(x, y);
+    return static_cast<int>(qBound(1.0, length, double(MostPixels)) + 0.5);
 }
 
 } // namespace
