@@ -48,13 +48,15 @@ public:
     }
     void drawEllipse(const QRectF &rect) override { record(PaintCommand::Ellipse, rect); }
     void drawEllipse(const QRect &rect) override { record(PaintCommand::Ellipse, rect); }
-    void drawPixmap(const QRectF &rect, const QPixmap &, const QRectF &) override
+    void drawPixmap(const QRectF &rect, const QPixmap &, const QRectF &source) override
     {
         record(PaintCommand::Pixmap, rect);
+        commands.last().source = source;
     }
-    void drawImage(const QRectF &rect, const QImage &, const QRectF &, Qt::ImageConversionFlags) override
+    void drawImage(const QRectF &rect, const QImage &, const QRectF &source, Qt::ImageConversionFlags) override
     {
         record(PaintCommand::Image, rect);
+        commands.last().source = source;
     }
     void drawTextItem(const QPointF &position, const QTextItem &item) override
     {
@@ -71,8 +73,9 @@ private:
                 const QFont &font = QFont())
     {
         const QPainter *p = painter();
+        const QRectF clip = p->hasClipping() ? p->combinedTransform().map(p->clipPath()).boundingRect() : QRectF();
         commands.append({kind, rect, text, p->pen(), p->brush(), font, p->combinedTransform(), p->opacity(),
-                         p->hasClipping(), p->renderHints()});
+                         p->hasClipping(), p->renderHints(), clip, QRectF()});
     }
 };
 

@@ -25,6 +25,8 @@ struct PaintCommand
     qreal opacity;
     bool hasClip;
     QPainter::RenderHints hints;
+    QRectF clip;   ///< around what is clipped to, in device coordinates; null without a clip
+    QRectF source; ///< images and pixmaps only: the part that is drawn
 };
 
 class RecordingPaintEngine;
