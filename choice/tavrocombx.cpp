@@ -6,8 +6,10 @@
 #include "core/pixels.h"
 
 #include <QAbstractItemView>
+#include <QApplication>
 #include <QComboBox>
 #include <QCompleter>
+#include <QFocusEvent>
 #include <QGraphicsProxyWidget>
 #include <QLineEdit>
 #include <QListView>
@@ -134,6 +136,7 @@ void TavroCombx::setOptionList(const QStringList &options)
     auto completer = std::make_unique<QCompleter>(options);
     completer->setFilterMode(Qt::MatchContains);
     completer->popup()->setWindowFlag(Qt::FramelessWindowHint);
+    completer->popup()->installEventFilter(this);
 
     const QSignalBlocker blocker(m_comboBox);
     m_comboBox->clear();
@@ -146,7 +149,6 @@ void TavroCombx::setOptionList(const QStringList &options)
         completer.release()->deleteLater();
     }
     // A filled list shows its first option, which nobody chose and the content does not hold.
-    m_comboBox->setCurrentIndex(options.indexOf(contentData().toString()));
     syncComboxText();
 }
 
@@ -183,8 +185,10 @@ QString TavroCombx::currentText() const
 
 void TavroCombx::setCurrentText(const QString &text)
 {
-    if (m_comboBox)
-        m_comboBox->setCurrentText(text);
+    if (!m_comboBox)
+        return;
+    m_comboBox->setCurrentText(text);
+    syncComboxText();
 }
 
 QGraphicsProxyWidget *TavroCombx::widgetPrxy() const
@@ -213,7 +217,11 @@ void TavroCombx::syncComboxText()
     if (!m_comboBox)
         return;
     const QSignalBlocker blocker(m_comboBox);
-    m_comboBox->setCurrentText(contentData().toString());
+    const QString text = contentData().toString();
+    // When the user leaves a combo box that stands on another option than it shows, it reports the shown one as chosen.
+    if (textAt(currentIndx()) != text)
+        m_comboBox->setCurrentIndex(m_comboBox->findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive));
+    m_comboBox->setCurrentText(text);
 }
 
 void TavroCombx::syncCombxFont()
@@ -271,6 +279,22 @@ void TavroCombx::drawCombxFeature(QPainter *painter)
     const QRectF square(boundingRect().right() - inset - side, boundingRect().top() + inset, side, side);
     painter->fillRect(square, Qt::white);
     symbols::draw(painter, square, symbols::Triangle);
+}
+
+bool TavroCombx::eventFilter(QObject *watched, QEvent *event)
+{
+    // Completions leave the keyboard to their widget, but know nothing of the view that it is in. If the view lost it
+    // to them, the combo box would report a choice before the text is typed to its end, and they would close at each
+    // key.
+    const QEvent::Type type = event->type();
+    if (watched == m_keyboardOwner && type == QEvent::FocusOut &&
+        static_cast<QFocusEvent *>(event)->reason() == Qt::PopupFocusReason)
+        return true;
+    if (type == QEvent::Show && (m_keyboardOwner = QApplication::focusWidget()))
+        m_keyboardOwner->installEventFilter(this);
+    else if (type == QEvent::Hide && watched != m_keyboardOwner && m_keyboardOwner)
+        m_keyboardOwner->removeEventFilter(this);
+    return TavroText::eventFilter(watched, event);
 }
 
 void TavroCombx::hoverEnterEvent(QGraphicsSceneHoverEvent *event)

@@ -35,8 +35,8 @@ public:
 
     // options
     QStringList optionList() const;
-    /// Replaces the list, and the completer, which offers every option that contains what was typed. The content stays,
-    /// and the option that equals it becomes the current one. Marks modified.
+    /// Replaces the list, and the completer, which offers every option that contains what was typed. The content stays.
+    /// Marks modified.
     void setOptionList(const QStringList &options);
     /// Empty for an index that the list does not have.
     QString textAt(int index) const;
@@ -57,7 +57,7 @@ public:
     void setBorderColor(const QString &color);
 
     // synchronisation
-    /// Content to combo box.
+    /// Content to combo box, which then stands on the option that equals it, on none where none does.
     void syncComboxText();
     void syncCombxFont();
     void syncCombxGeometry();
@@ -80,6 +80,8 @@ Q_SIGNALS:
     void currentIndexChanged(int index, const QString &table, const QString &column);
 
 protected:
+    /// Of the completer's popup, and of the view behind it.
+    bool eventFilter(QObject *watched, QEvent *event) override;
     void hoverEnterEvent(QGraphicsSceneHoverEvent *event) override;
     void hoverLeaveEvent(QGraphicsSceneHoverEvent *event) override;
 
@@ -91,4 +93,5 @@ private:
     bool m_isOptionsFromDB = true;
     bool m_isLockedByHover = false;
     std::unique_ptr<QCompleter> m_completer;
+    QPointer<QWidget> m_keyboardOwner;
 };

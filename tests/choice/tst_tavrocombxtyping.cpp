@@ -1,0 +1,352 @@
+// SPDX-License-Identifier: MIT
+// Combo box objects filled in by keyboard and pointer in a shown window: what they hold then, and what they report.
+#include "tests/choice/combxform.h"
+#include "tests/support/stricttest.h"
+
+#include <QInputMethodEvent>
+
+using namespace combx;
+
+namespace {
+
+// Every signal of the object in its order, with the content at that moment.
+class Log
+{
+public:
+    explicit Log(TavroCombx *object)
+    {
+        QObject::connect(object, &TavroCombx::contentDataChanged, object, [this, object] {
+            m_lines.append(QStringLiteral("content ") + object->contentData().toString());
+        });
+        QObject::connect(object, &TavroCombx::currentIndexChanged, object,
+                         [this, object](int index, const QString &table, const QString &column) {
+                             m_lines.append(QStringLiteral("choice %1 %2.%3 of %4")
+                                                .arg(index)
+                                                .arg(table, column, object->contentData().toString()));
+                         });
+    }
+
+    QString taken()
+    {
+        const QString all = m_lines.join(QStringLiteral("; "));
+        m_lines.clear();
+        return all;
+    }
+
+private:
+    QStringList m_lines;
+};
+
+using Step = void (*)(CombxForm &);
+
+// The completions are open from the first key on.
+void typeAndSee(CombxForm &form, const char *text)
+{
+    form.focus();
+    for (const QChar character : QString::fromLatin1(text)) {
+        form.type(character);
+        QVERIFY2(form.completions()->isVisible(), text);
+    }
+}
+
+void openByKey(CombxForm &form)
+{
+    form.focus();
+    form.key(Qt::Key_Down, Qt::AltModifier);
+    QTRY_VERIFY(form.list()->isVisible());
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(Step)
+
+class TavroCombxTypingTest : public StrictTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void choosing_data();
+    void choosing();
+    void freeText_data();
+    void freeText();
+    void inputMethod();
+    void everyKeyIsAContent();
+    void unbound();
+    void leavingAlone_data();
+    void leavingAlone();
+    void listFollowsTyping();
+    void focusComesWithTheObject();
+};
+
+void TavroCombxTypingTest::choosing_data()
+{
+    QTest::addColumn<Step>("step");
+    QTest::addColumn<QString>("log");
+    const auto row = [](const char *name, const char *log, Step step) {
+        QTest::newRow(name) << step << QString::fromLatin1(log);
+    };
+    row("pointer", "content Cherry; choice 2 goods.fruit of Cherry", [](CombxForm &form) {
+        QVERIFY(form.openList());
+        form.pick(2);
+    });
+    row("pointer, the current one", "content Cherry; choice 2 goods.fruit of Cherry; choice 2 goods.fruit of Cherry",
+        [](CombxForm &form) {
+            for (int i = 0; i < 2; ++i) {
+                QVERIFY(form.openList());
+                form.pick(2);
+            }
+        });
+    row("Alt+Down, Down, Down, Up and Enter", "content Pineapple; choice 1 goods.fruit of Pineapple",
+        [](CombxForm &form) {
+            openByKey(form);
+            QVERIFY(!form.box()->view()->currentIndex().isValid() || form.box()->view()->currentIndex().row() == 0);
+            form.key(Qt::Key_Home);
+            form.key(Qt::Key_Down);
+            form.key(Qt::Key_Down);
+            form.key(Qt::Key_Up);
+            form.key(Qt::Key_Return);
+        });
+    row("Alt+Down, End and Enter", "content Plum; choice 3 goods.fruit of Plum", [](CombxForm &form) {
+        openByKey(form);
+        form.key(Qt::Key_End);
+        form.key(Qt::Key_Enter);
+    });
+    row("Alt+Down and Escape", "", [](CombxForm &form) {
+        openByKey(form);
+        form.key(Qt::Key_Down);
+        form.key(Qt::Key_Escape);
+    });
+    row("Down in the field", "content Apple; choice 0 goods.fruit of Apple", [](CombxForm &form) {
+        form.focus();
+        form.key(Qt::Key_Down);
+    });
+    row("Down and Up in the field",
+        "content Apple; choice 0 goods.fruit of Apple; content Pineapple; choice 1 goods.fruit of Pineapple; "
+        "content Apple; choice 0 goods.fruit of Apple",
+        [](CombxForm &form) {
+            form.focus();
+            form.key(Qt::Key_Down);
+            form.key(Qt::Key_Down);
+            form.key(Qt::Key_Up);
+        });
+    row("completion by Enter", "content l; content lu; content Plum; choice 3 goods.fruit of Plum",
+        [](CombxForm &form) {
+            typeAndSee(form, "lu");
+            form.key(Qt::Key_Down);
+            form.key(Qt::Key_Return);
+        });
+    row("completion by the pointer", "content l; content lu; content Plum; choice 3 goods.fruit of Plum",
+        [](CombxForm &form) {
+            typeAndSee(form, "lu");
+            QTest::mouseClick(form.completions()->windowHandle(), Qt::LeftButton, Qt::NoModifier, QPoint(20, 10));
+        });
+    row("completions and Escape", "content l; content lu", [](CombxForm &form) {
+        typeAndSee(form, "lu");
+        form.key(Qt::Key_Escape);
+    });
+    row("an option typed, and Enter", "content P; content Pl; content Plu; content Plum; choice 3 goods.fruit of Plum",
+        [](CombxForm &form) {
+            typeAndSee(form, "Plum");
+            form.key(Qt::Key_Escape);
+            form.key(Qt::Key_Return);
+        });
+    row("an option typed, and Tab", "content P; content Pl; content Plu; content Plum; choice 3 goods.fruit of Plum",
+        [](CombxForm &form) {
+            typeAndSee(form, "Plum");
+            form.key(Qt::Key_Escape);
+            form.key(Qt::Key_Tab);
+        });
+    row("an option typed, and another field",
+        "content P; content Pl; content Plu; content Plum; choice 3 goods.fruit of Plum", [](CombxForm &form) {
+            typeAndSee(form, "Plum");
+            form.key(Qt::Key_Escape);
+            form.clickOther();
+        });
+    row("an option typed on the way to another", "content a; content ab; choice 5 goods.fruit of ab",
+        [](CombxForm &form) {
+            form.object->setOptionList(fruits() + QStringList{QStringLiteral("a"), QStringLiteral("ab")});
+            typeAndSee(form, "ab");
+            form.key(Qt::Key_Escape);
+        });
+    row("an option typed in other case", "content p; content pl; content plu; content plum", [](CombxForm &form) {
+        form.focus();
+        form.type(QStringLiteral("plum"));
+        form.key(Qt::Key_Escape);
+    });
+}
+
+void TavroCombxTypingTest::choosing()
+{
+    QFETCH(Step, step);
+    QFETCH(QString, log);
+    CombxForm form;
+    QVERIFY(form.isReady());
+    Log taken(form.object);
+    step(form);
+    // Leaving reports nothing twice.
+    form.clickOther();
+    form.clickOther();
+    QVERIFY(form.other->hasFocus());
+    QVERIFY(!form.list()->isVisible());
+    QCOMPARE(taken.taken(), log);
+    QCOMPARE(form.object->optionList().mid(0, fruits().size()), fruits());
+    QVERIFY(form.object->optionList().size() == fruits().size() || log.contains(QLatin1String("ab")));
+    QCOMPARE(form.object->contentData(), log.isEmpty() ? QVariant() : QVariant(form.object->currentText()));
+}
+
+void TavroCombxTypingTest::freeText_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::newRow("Enter") << static_cast<int>(Qt::Key_Return);
+    QTest::newRow("Enter of the number pad") << static_cast<int>(Qt::Key_Enter);
+    QTest::newRow("Tab") << static_cast<int>(Qt::Key_Tab);
+    QTest::newRow("another field") << 0;
+}
+
+void TavroCombxTypingTest::freeText()
+{
+    QFETCH(int, key);
+    CombxForm form;
+    QVERIFY(form.isReady());
+    QSignalSpy choices(form.object, &TavroCombx::currentIndexChanged);
+    form.focus();
+    form.type(QStringLiteral("fig"));
+    if (key)
+        form.key(static_cast<Qt::Key>(key));
+    form.clickOther();
+    QCOMPARE(form.object->contentData(), QVariant(QStringLiteral("fig")));
+    QCOMPARE(form.object->currentText(), QStringLiteral("fig"));
+    QCOMPARE(form.object->currentIndx(), -1);
+    QCOMPARE(form.object->optionList(), fruits());
+    QCOMPARE(choices.count(), 0);
+}
+
+void TavroCombxTypingTest::inputMethod()
+{
+    CombxForm form;
+    QVERIFY(form.isReady());
+    Log taken(form.object);
+    form.focus();
+    const auto send = [&form](const QString &composing, const QString &committed) {
+        QInputMethodEvent event(composing, {});
+        event.setCommitString(committed);
+        QCoreApplication::sendEvent(QGuiApplication::focusObject(), &event);
+    };
+    send(QStringLiteral("li"), QString());
+    QCOMPARE(taken.taken(), QString());
+    send(QString(), QStringLiteral("李子"));
+    QCOMPARE(taken.taken(), QStringLiteral("content 李子"));
+    QCOMPARE(form.object->currentText(), QStringLiteral("李子"));
+    QCOMPARE(form.object->optionList(), fruits());
+}
+
+void TavroCombxTypingTest::everyKeyIsAContent()
+{
+    CombxForm form;
+    QVERIFY(form.isReady());
+    form.object->setTextFillingRule(Fill_Shrink);
+    form.object->setIsModified(false);
+    Log taken(form.object);
+    form.focus();
+    form.type(QStringLiteral("ab"));
+    form.key(Qt::Key_Backspace);
+    form.key(Qt::Key_Backspace);
+    QCOMPARE(taken.taken(), QStringLiteral("content a; content ab; content a; content "));
+    const int whole = form.object->font().pixelSize();
+    form.type(QString(40, QLatin1Char('w')));
+    QVERIFY(form.object->font().pixelSize() < whole);
+    QVERIFY(haveFont(*form.object, form.object->font()));
+    QCOMPARE(form.object->isModified(), false);
+}
+
+void TavroCombxTypingTest::unbound()
+{
+    CombxForm form;
+    QVERIFY(form.isReady());
+    form.object->unbindToDB();
+    Log taken(form.object);
+    QVERIFY(form.openList());
+    form.pick(0);
+    QCOMPARE(taken.taken(), QStringLiteral("content Apple; choice 0 . of Apple"));
+}
+
+// Whoever passes through a field has chosen nothing.
+void TavroCombxTypingTest::leavingAlone_data()
+{
+    QTest::addColumn<Step>("set");
+    const auto row = [](const char *name, Step set) { QTest::newRow(name) << set; };
+    row("empty", [](CombxForm &) {});
+    row("content set", [](CombxForm &form) { form.object->setContentData(QStringLiteral("Plum")); });
+    row("text set", [](CombxForm &form) { form.object->setCurrentText(QStringLiteral("Plum")); });
+    row("index set", [](CombxForm &form) { form.object->setCurrentIndx(3); });
+    row("free text set", [](CombxForm &form) { form.object->setContentData(QStringLiteral("fig")); });
+    row("set over another option", [](CombxForm &form) {
+        form.object->setCurrentIndx(1);
+        form.object->setContentData(QStringLiteral("Plum"));
+    });
+    row("options set below the content", [](CombxForm &form) {
+        form.object->setContentData(QStringLiteral("x"));
+        form.object->setOptionList({QStringLiteral("a"), QStringLiteral("x")});
+    });
+    row("renewed", [](CombxForm &form) {
+        form.object->setPresetData(QStringLiteral("Cherry"));
+        form.object->renew();
+    });
+}
+
+void TavroCombxTypingTest::leavingAlone()
+{
+    QFETCH(Step, set);
+    CombxForm form;
+    QVERIFY(form.isReady());
+    set(form);
+    const QVariant content = form.object->contentData();
+    Log taken(form.object);
+    form.focus();
+    QVERIFY(form.object->widgetPrxy()->hasFocus());
+    form.key(Qt::Key_Return);
+    form.clickOther();
+    QVERIFY(form.other->hasFocus());
+    QCOMPARE(taken.taken(), QString());
+    QCOMPARE(form.object->contentData(), content);
+}
+
+// A host that looks the options up for each text typed, while the completions of the list before are open.
+void TavroCombxTypingTest::listFollowsTyping()
+{
+    CombxForm form;
+    QVERIFY(form.isReady());
+    TavroCombx *object = form.object;
+    connect(object, &TavroCombx::contentDataChanged, object, [object] {
+        const QString typed = object->contentData().toString();
+        object->setOptionList({typed + QStringLiteral("-one"), typed + QStringLiteral("-two")});
+    });
+    QVector<QPointer<QCompleter>> completers;
+    for (const char *typed : {"a", "b", "c"}) {
+        if (completers.isEmpty())
+            form.focus();
+        form.type(QString::fromLatin1(typed));
+        completers.append(form.box()->completer());
+        QTRY_VERIFY(form.completions()->isVisible());
+    }
+    QCOMPARE(object->contentData(), QVariant(QStringLiteral("abc")));
+    QCOMPARE(object->optionList(), QStringList({QStringLiteral("abc-one"), QStringLiteral("abc-two")}));
+    QTRY_VERIFY(!completers.at(0) && !completers.at(1));
+    form.key(Qt::Key_Down);
+    form.key(Qt::Key_Return);
+    QCOMPARE(object->contentData(), QVariant(QStringLiteral("abc-one")));
+}
+
+void TavroCombxTypingTest::focusComesWithTheObject()
+{
+    CombxForm form;
+    QVERIFY(form.isReady());
+    form.clickOther();
+    form.object->setFocus();
+    QCOMPARE(form.scene().focusItem(), form.object->widgetPrxy());
+    form.type(QStringLiteral("x"));
+    QCOMPARE(form.object->contentData(), QVariant(QStringLiteral("x")));
+}
+
+QTEST_MAIN(TavroCombxTypingTest)
+#include "tst_tavrocombxtyping.moc"
