@@ -3,6 +3,7 @@
 
 #include "desk/barcodesettings.h"
 #include "desk/cellsettings.h"
+#include "desk/choicesettings.h"
 #include "desk/datetimesettings.h"
 #include "desk/entrysettings.h"
 #include "desk/graphicsettings.h"
@@ -27,6 +28,10 @@ const QVector<Kind> &kinds()
         {QStringLiteral("financialEdit"), Obj_FinancialEdit, cellsettings::ofFinancialEdits()},
         {QStringLiteral("datetime"), Obj_Datetime, datetimesettings::ofDatetimes()},
         {QStringLiteral("barcode"), Obj_Barcode, barcodesettings::ofBarcodes()},
+        {QStringLiteral("checkBox"), Obj_CheckBox, choicesettings::ofCheckBoxes()},
+        {QStringLiteral("comboBox"), Obj_Combx, choicesettings::ofComboBoxes()},
+        {QStringLiteral("picture"), Obj_Picture, graphicsettings::ofPictures()},
+        {QStringLiteral("table"), Obj_Table, graphicsettings::ofTables()},
     };
     return all;
 }

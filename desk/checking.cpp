@@ -4,15 +4,20 @@
 #include "barcode/tavrobarcode.h"
 #include "cells/tavrofinancialedit.h"
 #include "cells/tavroseperateedit.h"
+#include "choice/tavrocheckbox.h"
+#include "choice/tavrocombx.h"
 #include "datetime/tavrodatetime.h"
 #include "desk/barcodechecking.h"
 #include "desk/cellchecking.h"
+#include "desk/choicechecking.h"
 #include "desk/datetimechecking.h"
 #include "desk/form.h"
 #include "desk/messages.h"
+#include "desk/picturechecking.h"
 #include "desk/printing.h"
 #include "desk/textfit.h"
 #include "entry/tavroedit.h"
+#include "graphic/tavropicture.h"
 
 namespace checking {
 
@@ -43,7 +48,7 @@ QString problemOf(TavroEdit *edit)
 }
 
 // Objects of the other kinds cannot be wrong.
-QString problemOf(TavroPrototype *object)
+QString problemOf(TavroPrototype *object, QSet<QString> *toldGroups)
 {
     if (auto *edit = qobject_cast<TavroEdit *>(object))
         return problemOf(edit);
@@ -55,6 +60,12 @@ QString problemOf(TavroPrototype *object)
         return datetimechecking::problemOf(*date);
     if (auto *barcode = qobject_cast<TavroBarcode *>(object))
         return barcodechecking::problemOf(*barcode);
+    if (const auto *box = qobject_cast<TavroCheckBox *>(object))
+        return choicechecking::problemOf(*box, toldGroups);
+    if (const auto *combo = qobject_cast<TavroCombx *>(object))
+        return choicechecking::problemOf(*combo);
+    if (const auto *picture = qobject_cast<TavroPicture *>(object))
+        return picturechecking::problemOf(*picture);
     return {};
 }
 
@@ -66,9 +77,10 @@ QStringList problems(const Form &form)
     for (const QString &name : form.unknownNames())
         found.append(messages::oneLine(QStringLiteral("unknown %1").arg(name)));
     form.fitTexts();
+    QSet<QString> toldGroups;
     int index = 0;
     for (const Form::Entry &entry : form.entries) {
-        const QString problem = problemOf(entry.object.data());
+        const QString problem = problemOf(entry.object.data(), &toldGroups);
         if (!problem.isEmpty())
             found.append(QStringLiteral("%1: %2").arg(named(*entry.object, index), problem));
         ++index;

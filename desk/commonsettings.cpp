@@ -5,6 +5,7 @@
 #include "desk/settingmaker.h"
 
 #include <QTransform>
+#include <algorithm>
 
 namespace commonsettings {
 
@@ -96,6 +97,12 @@ const Settings &ofBoxes()
     return settings;
 }
 
+const Settings &ofFrames()
+{
+    static const Settings settings = without(ofBoxes(), {"borderWidth", "backgroundStyle", "backgroundColor"});
+    return settings;
+}
+
 const Settings &ofTexts()
 {
     using T = TavroText;
@@ -121,6 +128,17 @@ const Settings &ofTexts()
                   {"noWrap", Fill_NoWrap}}),
     };
     return settings;
+}
+
+Settings without(const Settings &settings, std::initializer_list<const char *> keys)
+{
+    Settings kept;
+    for (const Setting &setting : settings) {
+        const auto isOfKey = [&setting](const char *key) { return setting.key == QLatin1String(key); };
+        if (std::none_of(keys.begin(), keys.end(), isOfKey))
+            kept.append(setting);
+    }
+    return kept;
 }
 
 Setting preset(const char *key, const char *label)

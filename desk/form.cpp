@@ -2,6 +2,7 @@
 #include "desk/form.h"
 
 #include "barcode/tavrobarcode.h"
+#include "choice/tavrocheckbox.h"
 #include "core/controlfactory.h"
 #include "core/tavrotext.h"
 #include "datetime/tavrodatetime.h"
@@ -10,6 +11,8 @@
 #include "desk/formwords.h"
 #include "graphic/tavroline.h"
 #include "graphic/tavrorect.h"
+
+#include <QCheckBox>
 
 Form::Form()
 {
@@ -64,6 +67,19 @@ void Form::setGeometry(TavroPrototype *object, const QRectF &millimetres) const
         frame->setLineWidthPix(frame->lineWidthPhy() * scale);
     else if (auto *barcode = qobject_cast<TavroBarcode *>(object))
         barcode->syncReadableTextPixSz();
+}
+
+void Form::groupCheckBoxes()
+{
+    m_groups.clear();
+    for (const Entry &entry : entries) {
+        const auto *box = qobject_cast<TavroCheckBox *>(entry.object.data());
+        if (!box || !box->checkBx() || box->checkGroupId().isEmpty())
+            continue;
+        QButtonGroup &group = m_groups[box->checkGroupId()];
+        // Searching for a free number takes long in large groups.
+        group.addButton(box->checkBx(), group.buttons().size());
+    }
 }
 
 void Form::fitTexts() const

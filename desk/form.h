@@ -3,6 +3,7 @@
 
 #include "core/tavrotypes.h"
 
+#include <QButtonGroup>
 #include <QGraphicsScene>
 #include <QJsonObject>
 #include <QMarginsF>
@@ -10,6 +11,7 @@
 #include <QRectF>
 #include <QSizeF>
 #include <QStringList>
+#include <map>
 #include <vector>
 
 class TavroPrototype;
@@ -50,6 +52,8 @@ public:
     TavroPrototype *objectWithId(const QString &id) const;
     /// Puts the object at its place in millimetres and in pixels, with the line width or font size of its scale.
     void setGeometry(TavroPrototype *object, const QRectF &millimetres) const;
+    /// Makes one choice of the check boxes that have a group in common. The first that is ticked stays so.
+    void groupCheckBoxes();
     /// Brings the fonts up to date with text and geometry, which objects else do when the event loop turns.
     void fitTexts() const;
     /// Names what a reader of this version does not know, with its place: objects[3]: kind "hologram".
@@ -57,4 +61,5 @@ public:
 
 private:
     QGraphicsScene m_scene;
+    std::map<QString, QButtonGroup> m_groups; ///< of check boxes, by name
 };

@@ -1,11 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "desk/formreader.h"
 
+#include "choice/tavrocheckbox.h"
 #include "core/tavroprototype.h"
 #include "desk/catalogue.h"
 #include "desk/formwords.h"
 #include "desk/jsonfile.h"
+#include "desk/messages.h"
+#include "desk/picturesource.h"
 
+#include <QFileInfo>
 #include <QHash>
 #include <QJsonArray>
 
@@ -122,6 +126,7 @@ private:
             if (!readObject(objects.at(i), QStringLiteral("%1[%2]").arg(path).arg(i)))
                 return false;
         }
+        m_form->groupCheckBoxes();
         return true;
     }
 
@@ -158,9 +163,9 @@ private:
             const QJsonValue value = unknown.take(setting.key);
             if (value.isUndefined())
                 continue;
-            const QVariant variant = setting.fromJson(value);
-            if (!variant.isValid())
-                return fail(path + QLatin1Char('.') + setting.key, setting.expectation(), value);
+            QVariant variant;
+            if (!readValue(setting, value, path + QLatin1Char('.') + setting.key, &variant))
+                return false;
             setting.set(*object, variant, m_form->scale);
             // Some values are refused by the object alone, and it says nothing.
             if (setting.get(*object) != variant)
@@ -169,7 +174,18 @@ private:
         m_form->entries.back().unknown = unknown;
         object->setOriginalID(object->tavroID());
         object->setIsModified(false);
-        return checkIdentifier(object->tavroID(), path);
+        return checkIdentifier(object->tavroID(), path) && checkGroup(*object, path);
+    }
+
+    bool readValue(const Setting &setting, const QJsonValue &value, const QString &path, QVariant *variant)
+    {
+        if (setting.type == Setting::Type::Picture) {
+            const picturesource::Result result = picturesource::read(value, QFileInfo(m_fileName).absolutePath());
+            *variant = result.png;
+            return result.expectation.isEmpty() || fail(path + result.where, result.expectation, result.found);
+        }
+        *variant = setting.fromJson(value);
+        return variant->isValid() || fail(path, setting.expectation(), value);
     }
 
     // A record names objects by identifier, so two objects cannot share one.
@@ -184,11 +200,28 @@ private:
         return true;
     }
 
+    // Check boxes that have a group in common are one choice.
+    bool checkGroup(const TavroPrototype &object, const QString &path)
+    {
+        const auto *box = qobject_cast<const TavroCheckBox *>(&object);
+        if (!box || box->checkGroupId().isEmpty() || box->contentData().toInt() == Qt::Unchecked)
+            return true;
+        const QString group = box->checkGroupId();
+        if (m_ticked.contains(group))
+            return fail(path + QStringLiteral(".preset"),
+                        QStringLiteral("at most one ticked check box in group %1, %2 is ticked too")
+                            .arg(messages::quoted(group), m_ticked.value(group)),
+                        true);
+        m_ticked.insert(group, path);
+        return true;
+    }
+
     const QJsonObject m_json;
     const QString m_fileName;
     Form *m_form = nullptr;
     QString m_error;
-    QHash<QString, QString> m_paths; ///< of the objects, by identifier
+    QHash<QString, QString> m_paths;  ///< of the objects, by identifier
+    QHash<QString, QString> m_ticked; ///< paths of the ticked check boxes, by group
 };
 
 } // namespace

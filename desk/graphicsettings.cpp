@@ -4,6 +4,7 @@
 #include "desk/commonsettings.h"
 #include "desk/settingmaker.h"
 #include "graphic/tavroline.h"
+#include "graphic/tavropicture.h"
 #include "graphic/tavrorect.h"
 
 namespace graphicsettings {
@@ -12,6 +13,7 @@ namespace {
 
 using settingmaker::choosing;
 using settingmaker::member;
+using settingmaker::named;
 using settingmaker::ranged;
 using Type = Setting::Type;
 using Settings = QVector<Setting>;
@@ -43,6 +45,19 @@ Settings strokeSettings()
                            Qt::NoPen, Qt::DashDotDotLine)};
 }
 
+// Bytes that are no image leave the object without a picture and without a preset.
+Setting picture()
+{
+    Setting setting = named("preset", "Picture", "Value", Type::Picture);
+    setting.get = [](const TavroPrototype &object) { return object.presetData().toByteArray(); };
+    setting.set = [](TavroPrototype &object, const QVariant &value, double) {
+        object.setContentData(value);
+        const bool isPicture = !static_cast<TavroPicture &>(object).image().isNull();
+        object.setPresetData(isPicture ? value : QByteArray());
+    };
+    return setting;
+}
+
 } // namespace
 
 QVector<Setting> ofLines()
@@ -53,6 +68,25 @@ QVector<Setting> ofLines()
 QVector<Setting> ofRects()
 {
     return strokeSettings<TavroRect>();
+}
+
+QVector<Setting> ofPictures()
+{
+    using P = TavroPicture;
+    return commonsettings::ofObjects() + commonsettings::ofFrames() +
+           Settings{
+               choosing(member("fill", "Filling rule", "Look", Type::Choice, &P::fillMode, &P::setFillMode),
+                        {{"fit", Picture_Fit}, {"stretch", Picture_Stretch}, {"actual", Picture_Actual}}),
+               ranged(member("angle", "Angle of the picture", "Look", Type::Number, &P::angle, &P::setAngle), -360,
+                      360),
+               member("canQuery", "Can be looked up", "Behaviour", Type::Flag, &P::canQuery, &P::setCanQuery),
+               picture(),
+           };
+}
+
+QVector<Setting> ofTables()
+{
+    return commonsettings::ofObjects();
 }
 
 } // namespace graphicsettings

@@ -3,10 +3,12 @@
 
 #include "desk/setting.h"
 
-/// Settings of strokes: lines and rectangles.
+/// Settings of lines, rectangles, pictures and the room for tables.
 namespace graphicsettings {
 
 QVector<Setting> ofLines();
 QVector<Setting> ofRects();
+QVector<Setting> ofPictures();
+QVector<Setting> ofTables();
 
 } // namespace graphicsettings

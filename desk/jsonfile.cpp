@@ -154,8 +154,12 @@ Content read(const QString &fileName)
 
 QString mismatch(const QString &fileName, const QString &path, const QString &expected, const QJsonValue &found)
 {
-    return messages::oneLine(
-        QStringLiteral("%1: %2: expected %3, found %4").arg(fileName, path, expected, described(found)));
+    return messages::oneLine(QStringLiteral("%1: %2: %3").arg(fileName, path, mismatch(expected, found)));
+}
+
+QString mismatch(const QString &expected, const QJsonValue &found)
+{
+    return QStringLiteral("expected %1, found %2").arg(expected, described(found));
 }
 
 } // namespace jsonfile

@@ -22,5 +22,7 @@ Content parse(const QByteArray &bytes, const QString &fileName);
 
 /// "file: path: expected what, found what"
 QString mismatch(const QString &fileName, const QString &path, const QString &expected, const QJsonValue &found);
+/// "expected what, found what"
+QString mismatch(const QString &expected, const QJsonValue &found);
 
 } // namespace jsonfile

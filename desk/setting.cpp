@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "desk/setting.h"
 
+#include "desk/picturesource.h"
+
 #include <QJsonArray>
 #include <QStringList>
 #include <algorithm>
@@ -37,6 +39,29 @@ QVariant numbersFrom(const QJsonValue &json, double minimum, double maximum)
             return {};
     }
     return numbers;
+}
+
+QVariant textsFrom(const QJsonValue &json)
+{
+    if (!json.isArray())
+        return {};
+    QStringList texts;
+    const QJsonArray array = json.toArray();
+    for (const QJsonValue &entry : array) {
+        if (!entry.isString())
+            return {};
+        texts.append(entry.toString());
+    }
+    return texts;
+}
+
+// One that stands in the file itself; files beside it are known to the reader.
+QVariant pictureFrom(const QJsonValue &json)
+{
+    if (!json.isString())
+        return {};
+    const picturesource::Result result = picturesource::read(json, QString());
+    return result.expectation.isEmpty() ? result.png : QVariant();
 }
 
 bool isHexDigit(QChar character)
@@ -92,6 +117,10 @@ QString rangeInWords(const Setting &setting)
         return QStringLiteral("a list of numbers from %1 to %2").arg(setting.minimum).arg(setting.maximum);
     case Setting::Type::Text:
         return QStringLiteral("a text");
+    case Setting::Type::Texts:
+        return QStringLiteral("a list of texts");
+    case Setting::Type::Picture:
+        return picturesource::expectation();
     case Setting::Type::Color:
         return QStringLiteral("a colour such as \"#1ba39c\"");
     case Setting::Type::AlphaColor:
@@ -127,6 +156,10 @@ QVariant Setting::fromJson(const QJsonValue &json) const
         return numbersFrom(json, minimum, maximum);
     case Type::Text:
         return json.isString() ? json.toVariant() : QVariant();
+    case Type::Texts:
+        return textsFrom(json);
+    case Type::Picture:
+        return pictureFrom(json);
     case Type::Color:
         return colorFrom(json.toString(), 6);
     case Type::AlphaColor:
@@ -150,6 +183,10 @@ QJsonValue Setting::toJson(const QVariant &value) const
         return QJsonArray::fromVariantList(value.toList());
     case Type::Text:
         return value.toString();
+    case Type::Texts:
+        return QJsonArray::fromStringList(value.toStringList());
+    case Type::Picture:
+        return picturesource::toJson(value.toByteArray());
     case Type::Color:
         return colorText(value.toUInt(), 6);
     case Type::AlphaColor:

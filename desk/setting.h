@@ -18,9 +18,11 @@ struct Setting
         Integer,
         Number,
         Text,
+        Texts,      ///< a list, which may be empty
         Color,      ///< "#rrggbb"
         AlphaColor, ///< "#aarrggbb"
         Numbers,    ///< a list, which may be empty
+        Picture,    ///< PNG in a QByteArray, base64 in JSON
         Choice      ///< a name, or a number for values without a name
     };
 

@@ -33,9 +33,13 @@ double otherNumber(const Setting &setting, double number)
     return number + 1 <= setting.maximum ? number + 1 : number - 1;
 }
 
-// A text that the kind takes as its preset.
-QString otherPreset(ObjType kind)
+// A value that the kind takes as its preset.
+QJsonValue otherPreset(ObjType kind)
 {
+    if (kind == Obj_CheckBox)
+        return true;
+    if (kind == Obj_Picture)
+        return smallPicture();
     return kind == Obj_Datetime ? QStringLiteral("2022-01-05T08:05:09") : QStringLiteral("12.5");
 }
 
@@ -53,6 +57,10 @@ QJsonValue otherThan(const Setting &setting, const QVariant &value)
         return QJsonArray{10, 1.5, 5.25, 1.5, 5.25, 1.5};
     case Setting::Type::Text:
         return otherText(setting.key);
+    case Setting::Type::Texts:
+        return QJsonArray{otherText(setting.key), QString(), QStringLiteral("12.5")};
+    case Setting::Type::Picture:
+        return smallPicture();
     case Setting::Type::Color:
         return QStringLiteral("#12ab9c");
     case Setting::Type::AlphaColor:
@@ -71,6 +79,12 @@ QJsonValue otherThan(const Setting &setting, const QVariant &value)
 QJsonValue value(const char *text)
 {
     return QJsonDocument::fromJson('[' + QByteArray(text) + ']').array().first();
+}
+
+QString smallPicture()
+{
+    return QStringLiteral("iVBORw0KGgoAAAANSUhEUgAAAAIAAAABCAAAAADRSSBWAA"
+                          "AAC0lEQVR42mNg+A8AAQIBANEay48AAAAASUVORK5CYII=");
 }
 
 QByteArray bytesOf(const QJsonObject &object)

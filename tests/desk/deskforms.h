@@ -15,6 +15,8 @@ namespace deskforms {
 
 /// Value that the text is in JSON.
 QJsonValue value(const char *text);
+/// A black and a white pixel side by side, PNG in base64.
+QString smallPicture();
 /// JSON text of an object or an array, indented.
 QByteArray bytesOf(const QJsonObject &object);
 

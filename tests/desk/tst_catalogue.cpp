@@ -207,11 +207,9 @@ void CatalogueTest::rotationStartsUpright()
 
 void CatalogueTest::presetFillsIn()
 {
-    const QVector<QPair<ObjType, const char *>> presets{{Obj_Edit, "preset"},
-                                                        {Obj_Label, "text"},
-                                                        {Obj_SeperateEdit, "preset"},
-                                                        {Obj_FinancialEdit, "preset"},
-                                                        {Obj_Barcode, "preset"}};
+    const QVector<QPair<ObjType, const char *>> presets{{Obj_Edit, "preset"},         {Obj_Label, "text"},
+                                                        {Obj_SeperateEdit, "preset"}, {Obj_FinancialEdit, "preset"},
+                                                        {Obj_Combx, "preset"},        {Obj_Barcode, "preset"}};
     for (const auto &[kind, key] : presets) {
         const std::unique_ptr<TavroPrototype> object(ControlFactory::factory(kind));
         settingOf(kind, key).set(*object, QStringLiteral("合计"), Scale);

@@ -377,10 +377,10 @@ void FormReaderTest::refusesObject_data()
     };
     add("no kind", R"({"rect":[0,0,1,1]})",
         "objects[1].kind: expected a kind such as line, rect, edit, label, separatedEdit, financialEdit, "
-        "datetime, barcode, found nothing");
+        "datetime, barcode, checkBox, comboBox, picture, table, found nothing");
     add("kind as a number", R"({"kind":3,"rect":[0,0,1,1]})",
         "objects[1].kind: expected a kind such as line, rect, edit, label, separatedEdit, financialEdit, "
-        "datetime, barcode, found 3");
+        "datetime, barcode, checkBox, comboBox, picture, table, found 3");
     add("no rectangle", R"({"kind":"line"})",
         "objects[1].rect: expected an array of four numbers in millimetres (x, y, width, height), found nothing");
     add("five numbers", R"({"kind":"line","rect":[1,2,3,4,5]})",

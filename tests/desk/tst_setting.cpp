@@ -60,6 +60,10 @@ void SettingTest::fromJson_data()
     add("numbers", Type::Numbers, "[-2, 0.125, 5]", QVariantList{-2.0, 0.125, 5.0});
     add("no numbers", Type::Numbers, "[]", QVariantList());
     add("text", Type::Text, "\"金额\"", QStringLiteral("金额"));
+    add("texts", Type::Texts, "[\"金额\", \"\", \"金额\"]",
+        QStringList({QStringLiteral("金额"), QString(), QStringLiteral("金额")}));
+    add("no texts", Type::Texts, "[]", QStringList());
+    add("no picture", Type::Picture, "\"\"", QByteArray());
     add("empty text", Type::Text, "\"\"", QString());
     add("colour", Type::Color, "\"#1ba39c\"", 0x1BA39Cu);
     add("colour in capitals", Type::Color, "\"#1BA39C\"", 0x1BA39Cu);
@@ -110,6 +114,16 @@ void SettingTest::fromJsonRefuses_data()
     add("number below", Type::Number, "-2.001");
     add("number above", Type::Number, "5.001");
     add("number beyond all", Type::Number, "1e308");
+    add("texts as a text", Type::Texts, "\"a\"");
+    add("texts as an object", Type::Texts, "{}");
+    add("texts with a number", Type::Texts, "[\"a\",1]");
+    add("texts with nothing between", Type::Texts, "[\"a\",null]");
+    add("texts with a list", Type::Texts, "[[\"a\"]]");
+    add("picture as a number", Type::Picture, "1");
+    add("picture as a list", Type::Picture, "[]");
+    add("picture that is no base64", Type::Picture, "\"%\"");
+    add("picture in base64 that is none", Type::Picture, "\"aGVsbG8=\"");
+    add("picture beside a file, which a setting does not know", Type::Picture, R"({"file":"a.png"})");
     add("numbers as a number", Type::Numbers, "1");
     add("numbers as a text", Type::Numbers, "\"1\"");
     add("numbers as an object", Type::Numbers, "{}");
@@ -164,6 +178,10 @@ void SettingTest::toJson_data()
     add("no numbers", Type::Numbers, QVariantList(), "[]");
     add("text", Type::Text, QStringLiteral("金额"), "\"金额\"");
     add("no text", Type::Text, QVariant(), "\"\"");
+    add("texts", Type::Texts, QStringList({QStringLiteral("金额"), QString()}), "[\"金额\", \"\"]");
+    add("no texts", Type::Texts, QStringList(), "[]");
+    add("bytes", Type::Picture, QByteArray("\x89PNG"), "\"iVBORw==\"");
+    add("no bytes", Type::Picture, QVariant(), "\"\"");
     add("colour", Type::Color, 0x1BA39Cu, "\"#1ba39c\"");
     add("dark colour", Type::Color, 0x9Cu, "\"#00009c\"");
     add("colour with opacity", Type::AlphaColor, 0xFF1BA39Cu, "\"#ff1ba39c\"");
@@ -190,6 +208,9 @@ void SettingTest::expectation_data()
     QTest::newRow("number") << Type::Number << QStringLiteral("a number from -2 to 5");
     QTest::newRow("numbers") << Type::Numbers << QStringLiteral("a list of numbers from -2 to 5");
     QTest::newRow("text") << Type::Text << QStringLiteral("a text");
+    QTest::newRow("texts") << Type::Texts << QStringLiteral("a list of texts");
+    QTest::newRow("picture") << Type::Picture
+                             << QStringLiteral("a picture in base64, or an object with the name of its \"file\" alone");
     QTest::newRow("colour") << Type::Color << QStringLiteral("a colour such as \"#1ba39c\"");
     QTest::newRow("alpha colour") << Type::AlphaColor
                                   << QStringLiteral("a colour with its opacity such as \"#ff1ba39c\"");
