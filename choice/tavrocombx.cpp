@@ -13,6 +13,7 @@
 #include <QGraphicsProxyWidget>
 #include <QLineEdit>
 #include <QListView>
+#include <QScreen>
 #include <QSignalBlocker>
 
 namespace {
@@ -57,6 +58,8 @@ TavroCombx::~TavroCombx()
     // A combo box that loses the keyboard when it goes may still choose what was typed, for an object that is no more.
     if (m_comboBox)
         m_comboBox->disconnect(this);
+    // Open completions close now, and give the keyboard back.
+    m_completer.reset();
 }
 
 void TavroCombx::setUpComboBox()
@@ -74,6 +77,7 @@ void TavroCombx::setUpComboBox()
     // Embedded with the combo box, the list would be an item of the scene, covered by objects above this one and cut
     // off at the edge of the view.
     view->window()->setWindowFlag(Qt::BypassGraphicsProxyWidget);
+    view->window()->installEventFilter(this);
     m_comboBox->setStyleSheet(styleSheetWithBorder(QStringLiteral("#1ba39c")));
 }
 
@@ -283,18 +287,38 @@ void TavroCombx::drawCombxFeature(QPainter *painter)
 
 bool TavroCombx::eventFilter(QObject *watched, QEvent *event)
 {
-    // Completions leave the keyboard to their widget, but know nothing of the view that it is in. If the view lost it
-    // to them, the combo box would report a choice before the text is typed to its end, and they would close at each
-    // key.
     const QEvent::Type type = event->type();
-    if (watched == m_keyboardOwner && type == QEvent::FocusOut &&
-        static_cast<QFocusEvent *>(event)->reason() == Qt::PopupFocusReason)
-        return true;
-    if (type == QEvent::Show && (m_keyboardOwner = QApplication::focusWidget()))
+    if (m_comboBox && watched == m_comboBox->view()->window()) {
+        if (type == QEvent::Show)
+            moveListOntoScreen();
+    } else if (watched == m_keyboardOwner) {
+        // Completions leave the keyboard to their widget, but know nothing of the view that it is in. If the view lost
+        // it to them, the combo box would report a choice before the text is typed to its end, and they would close at
+        // each key.
+        if (type == QEvent::FocusOut && static_cast<QFocusEvent *>(event)->reason() == Qt::PopupFocusReason)
+            return true;
+    } else if (type == QEvent::Show && QApplication::focusWidget()) {
+        m_keyboardOwner = QApplication::focusWidget();
         m_keyboardOwner->installEventFilter(this);
-    else if (type == QEvent::Hide && watched != m_keyboardOwner && m_keyboardOwner)
+    } else if (type == QEvent::Hide && m_keyboardOwner) {
         m_keyboardOwner->removeEventFilter(this);
+    }
     return TavroText::eventFilter(watched, event);
+}
+
+// Embedded combo boxes open their lists without a look at the edges of the screen.
+void TavroCombx::moveListOntoScreen()
+{
+    const QPoint corner = m_comboBox->mapToGlobal({0, 0});
+    const QScreen *screen = QGuiApplication::screenAt(m_comboBox->mapToGlobal(m_comboBox->rect().center()));
+    const QRect area = (screen ? screen : QGuiApplication::primaryScreen())->availableGeometry();
+    QWidget *list = m_comboBox->view()->window();
+    QRect place = list->geometry();
+    if (place.bottom() > area.bottom())
+        place.moveBottom(qMin(corner.y() - 1, area.bottom()));
+    place.moveLeft(qMax(area.left(), qMin(place.left(), area.right() + 1 - place.width())));
+    place.moveTop(qMax(area.top(), place.top()));
+    list->move(place.topLeft());
 }
 
 void TavroCombx::hoverEnterEvent(QGraphicsSceneHoverEvent *event)

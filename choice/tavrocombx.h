@@ -80,18 +80,19 @@ Q_SIGNALS:
     void currentIndexChanged(int index, const QString &table, const QString &column);
 
 protected:
-    /// Of the completer's popup, and of the view behind it.
+    /// Of the list, of the completer's popup, and of the view behind it.
     bool eventFilter(QObject *watched, QEvent *event) override;
     void hoverEnterEvent(QGraphicsSceneHoverEvent *event) override;
     void hoverLeaveEvent(QGraphicsSceneHoverEvent *event) override;
 
 private:
     void setUpComboBox();
+    void moveListOntoScreen();
 
     QPointer<QComboBox> m_comboBox;
     QPointer<QGraphicsProxyWidget> m_widgetPrxy;
     bool m_isOptionsFromDB = true;
     bool m_isLockedByHover = false;
-    std::unique_ptr<QCompleter> m_completer;
     QPointer<QWidget> m_keyboardOwner;
+    std::unique_ptr<QCompleter> m_completer;
 };

@@ -90,6 +90,12 @@ public:
         click(arrow());
         return list()->isVisible() && QTest::qWaitForWindowExposed(list());
     }
+    bool openListByKey()
+    {
+        object->setFocus();
+        key(Qt::Key_Down, Qt::AltModifier);
+        return list()->isVisible() && QTest::qWaitForWindowExposed(list());
+    }
     /// Moves the pointer over an entry of the open list, and clicks it.
     void pick(int row)
     {
