@@ -35,7 +35,7 @@ bool isIcon(const QByteArray &format)
 bool isBounded(const QSize &size)
 {
     const bool hasNothing = size.isValid() && size.isEmpty();
-    return !hasNothing && pixels(size) <= MostPixels;
+    return !hasNothing && qMax(size.width(), size.height()) <= MostPixelsOfSide && pixels(size) <= MostPixels;
 }
 
 // The first entry of an icon file may be a whole PNG, whose size the list of entries does not tell.

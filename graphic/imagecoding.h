@@ -14,6 +14,8 @@ namespace imagecoding {
 /// SVG that links to a file, holds another SVG or icon, or has over a million elements or 32 MB of text (unpacked,
 /// where it is compressed) counts as too big.
 constexpr qint64 MostPixels = qint64(1) << 26;
+/// Most pixels of a side: longer ones cannot be stored as PNG.
+constexpr int MostPixelsOfSide = 1000000;
 
 /// The first image of a file or of its bytes, in any format that Qt has a plug-in for; the format is found from the
 /// content. Null for what is no image, is cut off where the format cannot show the rest, or has too many pixels.

@@ -43,6 +43,7 @@ private Q_SLOTS:
     void formatIsFoundFromTheContent();
     void most_data();
     void most();
+    void mostOfASide();
     void drawings_data();
     void drawings();
     void drawingsReadNoFiles();
@@ -163,6 +164,21 @@ void TestImageCoding::most()
         "P4\n" + QByteArray::number(size.width()) + ' ' + QByteArray::number(size.height()) + '\n';
     const QByteArray bytes = header + QByteArray((size.width() + 7) / 8 * size.height(), '\xFF');
     QCOMPARE(imagecoding::decoded(bytes).size(), isTooBig ? QSize(0, 0) : size);
+}
+
+// What can be loaded can be stored.
+void TestImageCoding::mostOfASide()
+{
+    for (const QSize &size : {QSize(1000000, 1), QSize(1, 1000000)}) {
+        const QImage longest = imagecoding::decoded(samples::written("bmp", samples::image(size)));
+        QCOMPARE(longest.size(), size);
+        QCOMPARE(imagecoding::decoded(imagecoding::pngBytes(longest)), longest);
+    }
+    for (const QSize &size : {QSize(1000001, 1), QSize(1, 1000001)}) {
+        const QByteArray tooLong = samples::written("bmp", samples::image(size));
+        QVERIFY(!tooLong.isEmpty());
+        QVERIFY(imagecoding::decoded(tooLong).isNull());
+    }
 }
 
 void TestImageCoding::drawings_data()
