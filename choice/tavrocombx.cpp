@@ -48,7 +48,8 @@ TavroCombx::TavroCombx(QGraphicsItem *parent)
     connect(m_comboBox, QOverload<int>::of(&QComboBox::activated), this, &TavroCombx::onCurrentIndexChanged);
     // A hidden object does not hear that the pointer leaves.
     connect(this, &TavroCombx::visibleChanged, this, [this] {
-        if (m_isLockedByHover && !isVisible())
+        m_isHovered = m_isHovered && isVisible();
+        if (m_isLockedByHover && !m_isHovered)
             onHoverEvent(false);
     });
 }
@@ -98,9 +99,9 @@ void TavroCombx::setPaintMode(const Paint_Mode &mode)
     TavroText::setPaintMode(mode);
     showHideCombx();
     // A pointer that stays where it is, enters and leaves nothing.
-    const bool hovered = isReadOnly() && isUnderMouse();
-    if (hovered || m_isLockedByHover)
-        onHoverEvent(hovered);
+    const bool isUnderPointer = m_isHovered && isUnderMouse();
+    if (isUnderPointer || m_isLockedByHover)
+        onHoverEvent(isUnderPointer);
 }
 
 void TavroCombx::designPaint(QPainter *painter)
@@ -324,11 +325,13 @@ void TavroCombx::moveListOntoScreen()
 void TavroCombx::hoverEnterEvent(QGraphicsSceneHoverEvent *event)
 {
     TavroText::hoverEnterEvent(event);
+    m_isHovered = true;
     onHoverEvent(true);
 }
 
 void TavroCombx::hoverLeaveEvent(QGraphicsSceneHoverEvent *event)
 {
     TavroText::hoverLeaveEvent(event);
+    m_isHovered = false;
     onHoverEvent(false);
 }

@@ -92,6 +92,7 @@ private:
     QPointer<QComboBox> m_comboBox;
     QPointer<QGraphicsProxyWidget> m_widgetPrxy;
     bool m_isOptionsFromDB = true;
+    bool m_isHovered = false;
     bool m_isLockedByHover = false;
     QPointer<QWidget> m_keyboardOwner;
     std::unique_ptr<QCompleter> m_completer;
