@@ -207,7 +207,7 @@ void TavroPrototype::drawBorder(QPainter *painter)
     if (!m_hasBorder)
         return;
     constexpr qreal penWidth = 1;
-    const PainterSaver saver(painter);
+    const PenSaver saver(painter);
     painter->setPen(QPen(QColor(m_borderColor), penWidth));
     painter->setBrush(Qt::NoBrush);
     painter->drawRect(QRectF(m_boundingRect.x() + penWidth / 2, m_boundingRect.y() + penWidth / 2,
