@@ -12,8 +12,9 @@ namespace picturechecking {
 
 namespace {
 
-// Pictures stand on whole pixels, their places do not.
-constexpr qreal Rounding = 1; // px
+// Pictures stand on whole pixels, their places do not: size and centre are rounded, and the middle of an even number of
+// pixels is one of two.
+constexpr qreal Rounding = 2; // px
 
 QString problemOfPlace(const TavroPicture &object)
 {

@@ -126,11 +126,13 @@ void PictureCheckingTest::place_data()
     add("fitted", place, {500, 500}, "{}", "");
     add("stretched", place, {500, 500}, R"({"fill":"stretch"})", "");
     add("between pixels", {10.07, 10.07, 9.93, 5.06}, {33, 77}, "{}", "");
+    add("middle between pixels", {10, 10.075, 27, 27}, {420, 420}, "{}", "");
     add("fitted over its corner", {20, 15, -10, -5}, {50, 50}, R"({"fill":"stretch"})", "");
     add("actual", place, {80, 40}, R"({"fill":"actual"})", "");
-    add("too wide", place, {82, 40}, R"({"fill":"actual"})", tooLarge);
-    add("too high", place, {80, 42}, R"({"fill":"actual"})", tooLarge);
-    add("too wide on the screen alone", place, {82, 40}, R"({"fill":"actual","print":false})", "");
+    add("actual with what rounding takes", place, {82, 42}, R"({"fill":"actual"})", "");
+    add("too wide", place, {83, 40}, R"({"fill":"actual"})", tooLarge);
+    add("too high", place, {80, 43}, R"({"fill":"actual"})", tooLarge);
+    add("too wide on the screen alone", place, {83, 40}, R"({"fill":"actual","print":false})", "");
     add("turned about the corner of the page", {0.5, 0.5, 10, 5}, {80, 40}, R"({"angle":5})", tooLarge);
     add("turned out of its rectangle", {50, 30, 10, 5}, {80, 40}, R"({"angle":90})", nothing);
     add("turned all around", place, {80, 40}, R"({"angle":360})", "");

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "core/tavroprototype.h"
+#include "desk/catalogue.h"
 #include "desk/checking.h"
 #include "desk/fonts.h"
 #include "desk/formreader.h"
@@ -21,6 +23,8 @@ private Q_SLOTS:
     void sample_data();
     void sample();
     void everyRecordHasItsForm();
+    void applicationFormHasEveryKind();
+    void emptyApplicationForm();
 
 private:
     static QDir folder() { return QDir(QStringLiteral(TAVRO_SAMPLES)); }
@@ -59,6 +63,39 @@ void SamplesTest::everyRecordHasItsForm()
     const QStringList forms = names("*.tform");
     for (const QString &name : names("*.json"))
         QVERIFY2(forms.contains(name.chopped(int(qstrlen(".json"))) + QStringLiteral(".tform")), qPrintable(name));
+}
+
+void SamplesTest::applicationFormHasEveryKind()
+{
+    const formreader::Result read = formreader::read(folder().filePath(QStringLiteral("application-form.tform")));
+    QVERIFY2(read.form, qPrintable(read.error));
+    QStringList missing = catalogue::kindNames();
+    for (const Form::Entry &entry : read.form->entries)
+        missing.removeAll(catalogue::nameOf(entry.object->objType()));
+    QCOMPARE(missing, QStringList());
+}
+
+// Without its record the form says what it wants: each choice and each field once.
+void SamplesTest::emptyApplicationForm()
+{
+    const formreader::Result read = formreader::read(folder().filePath(QStringLiteral("application-form.tform")));
+    QVERIFY2(read.form, qPrintable(read.error));
+    QStringList problems;
+    for (const QString &problem : checking::problems(*read.form))
+        problems.append(problem.section(QLatin1Char(' '), 1));
+    const QString missing = QStringLiteral("\"%1\": required, but missing");
+    const QString unticked = QStringLiteral("\"%1\": required, but not ticked");
+    const QString open = QStringLiteral("\"%1\": required, but nothing in group \"%2\" is ticked");
+    const auto of = [](const QString &problem, const char *id) { return problem.arg(QLatin1String(id)); };
+    QCOMPARE(problems,
+             QStringList(
+                 {of(missing, "applicationNumber"), open.arg(QStringLiteral("titleMr"), QStringLiteral("title")),
+                  of(missing, "name"), of(missing, "birth"), of(missing, "identity"), of(missing, "mobile"),
+                  of(missing, "residence"), of(missing, "address"),
+                  open.arg(QStringLiteral("employed"), QStringLiteral("employment")), of(missing, "income"),
+                  of(missing, "purpose"), of(missing, "term"), open.arg(QStringLiteral("day5"), QStringLiteral("day")),
+                  of(missing, "amount"), of(missing, "amountInWords"), of(unticked, "truthful"),
+                  of(unticked, "inquiry"), of(missing, "signature"), of(missing, "signed")}));
 }
 
 QTEST_MAIN(SamplesTest)
