@@ -77,8 +77,9 @@ void TavroCombx::setUpComboBox()
     view->setStyleSheet(QStringLiteral("QAbstractItemView::item {height: 1.1em;}"));
     // Embedded with the combo box, the list would be an item of the scene, covered by objects above this one and cut
     // off at the edge of the view.
-    view->window()->setWindowFlag(Qt::BypassGraphicsProxyWidget);
-    view->window()->installEventFilter(this);
+    m_list = view->window();
+    m_list->setWindowFlag(Qt::BypassGraphicsProxyWidget);
+    m_list->installEventFilter(this);
     m_comboBox->setStyleSheet(styleSheetWithBorder(QStringLiteral("#1ba39c")));
 }
 
@@ -289,7 +290,7 @@ void TavroCombx::drawCombxFeature(QPainter *painter)
 bool TavroCombx::eventFilter(QObject *watched, QEvent *event)
 {
     const QEvent::Type type = event->type();
-    if (m_comboBox && watched == m_comboBox->view()->window()) {
+    if (watched == m_list) {
         if (type == QEvent::Show)
             moveListOntoScreen();
     } else if (watched == m_keyboardOwner) {
@@ -313,13 +314,12 @@ void TavroCombx::moveListOntoScreen()
     const QPoint corner = m_comboBox->mapToGlobal({0, 0});
     const QScreen *screen = QGuiApplication::screenAt(m_comboBox->mapToGlobal(m_comboBox->rect().center()));
     const QRect area = (screen ? screen : QGuiApplication::primaryScreen())->availableGeometry();
-    QWidget *list = m_comboBox->view()->window();
-    QRect place = list->geometry();
+    QRect place = m_list->geometry();
     if (place.bottom() > area.bottom())
         place.moveBottom(qMin(corner.y() - 1, area.bottom()));
     place.moveLeft(qMax(area.left(), qMin(place.left(), area.right() + 1 - place.width())));
     place.moveTop(qMax(area.top(), place.top()));
-    list->move(place.topLeft());
+    m_list->move(place.topLeft());
 }
 
 void TavroCombx::hoverEnterEvent(QGraphicsSceneHoverEvent *event)

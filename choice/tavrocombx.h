@@ -94,6 +94,7 @@ private:
     bool m_isOptionsFromDB = true;
     bool m_isHovered = false;
     bool m_isLockedByHover = false;
+    QPointer<QWidget> m_list;
     QPointer<QWidget> m_keyboardOwner;
     std::unique_ptr<QCompleter> m_completer;
 };
