@@ -22,6 +22,9 @@ TavroDatetime::TavroDatetime(QGraphicsItem *parent)
     setUpEditor(m_timeEdit);
     m_proxy->setWidget(m_dateEdit);
     m_proxy->setMinimumSize(0, 0);
+    // Sections take no keys. An editor without a focus of its own must not go while its proxy has it: Qt looks for the
+    // next one in the widget that is just being destroyed.
+    m_proxy->setFocusPolicy(Qt::NoFocus);
     m_proxy->setVisible(false);
     TavroDatetime::setContentData(QDateTime::currentDateTime());
 }
