@@ -1,0 +1,141 @@
+// SPDX-License-Identifier: MIT
+// Content, text and index of a combo box object, set from code.
+#include "tests/choice/combxprobes.h"
+#include "tests/support/stricttest.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace combx;
+
+class TavroCombxContentTest : public StrictTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void contentToText_data();
+    void contentToText();
+    void emptyTextFollowsContent();
+    void textToContent();
+    void indexToContent();
+    void renew_data();
+    void renew();
+};
+
+void TavroCombxContentTest::contentToText_data()
+{
+    QTest::addColumn<QVariant>("content");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("option") << QVariant(QStringLiteral("Cherry")) << QStringLiteral("Cherry");
+    QTest::newRow("free text") << QVariant(QStringLiteral("Fig")) << QStringLiteral("Fig");
+    QTest::newRow("number") << QVariant(42) << QStringLiteral("42");
+    QTest::newRow("null") << QVariant() << QString();
+    QTest::newRow("list") << QVariant(QVariantList{1, 2}) << QString();
+    QTest::newRow("Chinese") << QVariant(QStringLiteral("苹果")) << QStringLiteral("苹果");
+}
+
+void TavroCombxContentTest::contentToText()
+{
+    QFETCH(QVariant, content);
+    QFETCH(QString, text);
+    TavroCombx object;
+    object.setOptionList(fruits());
+    object.setContentData(QStringLiteral("Apple"));
+    QSignalSpy contents(&object, &TavroCombx::contentDataChanged);
+    QSignalSpy choices(&object, &TavroCombx::currentIndexChanged);
+    QSignalSpy texts(boxOf(object), &QComboBox::currentTextChanged);
+    object.setContentData(content);
+    QCOMPARE(object.contentData(), content);
+    QCOMPARE(object.currentText(), text);
+    QCOMPARE(object.optionList(), fruits());
+    QCOMPARE(contents.count(), 1);
+    QCOMPARE(choices.count(), 0);
+    QCOMPARE(texts.count(), 0);
+    QCOMPARE(boxOf(object)->signalsBlocked(), false);
+}
+
+// The combo box is told with its signals blocked, and leaves the content as it was given.
+void TavroCombxContentTest::emptyTextFollowsContent()
+{
+    TavroCombx object;
+    boxOf(object)->blockSignals(true);
+    object.setCurrentText(QStringLiteral("unheard"));
+    boxOf(object)->blockSignals(false);
+    QVERIFY(!object.contentData().isValid());
+    object.syncComboxText();
+    QCOMPARE(object.currentText(), QString());
+    QVERIFY(!object.contentData().isValid());
+}
+
+void TavroCombxContentTest::textToContent()
+{
+    TavroCombx object;
+    object.setOptionList(fruits());
+    QSignalSpy contents(&object, &TavroCombx::contentDataChanged);
+    QSignalSpy choices(&object, &TavroCombx::currentIndexChanged);
+    for (const QString &text : {QStringLiteral("Fig"), QStringLiteral("Plum"), QString()}) {
+        contents.clear();
+        object.setCurrentText(text);
+        QCOMPARE(object.contentData(), QVariant(text));
+        QCOMPARE(object.contentData().userType(), static_cast<int>(QMetaType::QString));
+        QCOMPARE(object.currentText(), text);
+        QCOMPARE(contents.count(), 1);
+        object.setCurrentText(text);
+        QCOMPARE(contents.count(), 1);
+    }
+    QCOMPARE(choices.count(), 0);
+    QCOMPARE(object.optionList(), fruits());
+}
+
+void TavroCombxContentTest::indexToContent()
+{
+    TavroCombx object;
+    object.setOptionList(fruits());
+    QSignalSpy contents(&object, &TavroCombx::contentDataChanged);
+    QSignalSpy choices(&object, &TavroCombx::currentIndexChanged);
+    const QVector<QPair<int, QString>> steps{
+        {2, fruits().at(2)}, {0, fruits().at(0)}, {99, {}}, {3, fruits().at(3)}, {-1, {}}};
+    for (const auto &step : steps) {
+        contents.clear();
+        object.setCurrentIndx(step.first);
+        QCOMPARE(object.currentIndx(), step.second.isEmpty() ? -1 : step.first);
+        QCOMPARE(object.currentText(), step.second);
+        QCOMPARE(object.contentData(), QVariant(step.second));
+        QCOMPARE(contents.count(), 1);
+    }
+    QCOMPARE(choices.count(), 0);
+}
+
+void TavroCombxContentTest::renew_data()
+{
+    QTest::addColumn<bool>("resets");
+    QTest::addColumn<QVariant>("preset");
+    QTest::addColumn<QVariant>("content");
+    QTest::addColumn<QString>("text");
+    const QVariant fig(QStringLiteral("Fig"));
+    QTest::newRow("to the preset") << true << QVariant(QStringLiteral("Plum")) << QVariant(QStringLiteral("Plum"))
+                                   << QStringLiteral("Plum");
+    QTest::newRow("to nothing") << true << QVariant() << QVariant() << QString();
+    QTest::newRow("kept") << false << QVariant(QStringLiteral("Plum")) << fig << QStringLiteral("Fig");
+}
+
+void TavroCombxContentTest::renew()
+{
+    QFETCH(bool, resets);
+    QFETCH(QVariant, preset);
+    TavroCombx object;
+    object.setOptionList(fruits());
+    object.setContentData(QStringLiteral("Fig"));
+    object.setPresetData(preset);
+    object.setIsResetAtRenew(resets);
+    object.setIsModified(false);
+    QSignalSpy contents(&object, &TavroCombx::contentDataChanged);
+    object.renew();
+    QTEST(object.contentData(), "content");
+    QTEST(object.currentText(), "text");
+    QCOMPARE(contents.count(), resets ? 1 : 0);
+    QCOMPARE(object.isModified(), false);
+}
+
+QTEST_MAIN(TavroCombxContentTest)
+#include "tst_tavrocombxcontent.moc"
