@@ -17,6 +17,11 @@ inline QStringList fruits()
     return {QStringLiteral("Apple"), QStringLiteral("Pineapple"), QStringLiteral("Cherry"), QStringLiteral("Plum")};
 }
 
+inline QStringList words(const char *spaced)
+{
+    return QString::fromLatin1(spaced).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+}
+
 inline QComboBox *boxOf(const TavroCombx &object)
 {
     return qobject_cast<QComboBox *>(object.widgetPrxy()->widget());

@@ -20,6 +20,10 @@ private Q_SLOTS:
     void indexToContent();
     void renew_data();
     void renew();
+    void contentStays_data();
+    void contentStays();
+    void indexFollowsContent_data();
+    void indexFollowsContent();
 };
 
 void TavroCombxContentTest::contentToText_data()
@@ -135,6 +139,65 @@ void TavroCombxContentTest::renew()
     QTEST(object.currentText(), "text");
     QCOMPARE(contents.count(), resets ? 1 : 0);
     QCOMPARE(object.isModified(), false);
+}
+
+void TavroCombxContentTest::contentStays_data()
+{
+    QTest::addColumn<QVariant>("content");
+    QTest::addColumn<QStringList>("options");
+    QTest::addColumn<int>("index");
+    const QVariant plum(QStringLiteral("Plum"));
+    QTest::newRow("an option") << plum << fruits() << 3;
+    QTest::newRow("no option") << plum << words("one two") << -1;
+    QTest::newRow("other case") << QVariant(QStringLiteral("plum")) << fruits() << -1;
+    QTest::newRow("part of an option") << QVariant(QStringLiteral("Pine")) << fruits() << -1;
+    QTest::newRow("first of duplicates") << QVariant(QStringLiteral("b")) << words("a b a b") << 1;
+    QTest::newRow("none left") << plum << QStringList() << -1;
+    QTest::newRow("number") << QVariant(7) << words("6 7 8") << 1;
+    QTest::newRow("nothing") << QVariant() << fruits() << -1;
+    QTest::newRow("nothing, with an empty option") << QVariant() << QStringList{QStringLiteral("a"), QString()} << 1;
+}
+
+void TavroCombxContentTest::contentStays()
+{
+    QFETCH(QVariant, content);
+    QFETCH(QStringList, options);
+    TavroCombx object;
+    object.setOptionList(words("x Plum y"));
+    object.setContentData(content);
+    object.setOptionList(options);
+    QCOMPARE(object.contentData(), content);
+    QCOMPARE(object.currentText(), content.toString());
+    QTEST(object.currentIndx(), "index");
+}
+
+// Else a combo box that is entered and left would choose the option that its text was set to from code.
+void TavroCombxContentTest::indexFollowsContent_data()
+{
+    QTest::addColumn<QString>("content");
+    QTest::addColumn<int>("index");
+    QTest::newRow("option") << QStringLiteral("b") << 1;
+    QTest::newRow("free text") << QStringLiteral("z") << -1;
+    QTest::newRow("nothing") << QString() << -1;
+    QTest::newRow("the current one of duplicates") << QStringLiteral("a") << 2;
+}
+
+void TavroCombxContentTest::indexFollowsContent()
+{
+    QFETCH(QString, content);
+    QFETCH(int, index);
+    for (const bool byText : {false, true}) {
+        TavroCombx object;
+        object.setOptionList(words("a b a c"));
+        object.setCurrentIndx(2);
+        if (byText)
+            object.setCurrentText(content);
+        else
+            object.setContentData(content);
+        QCOMPARE(object.currentText(), content);
+        QCOMPARE(object.contentData(), QVariant(content));
+        QCOMPARE(object.currentIndx(), index);
+    }
 }
 
 QTEST_MAIN(TavroCombxContentTest)

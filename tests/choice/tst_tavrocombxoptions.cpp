@@ -13,11 +13,6 @@ using namespace combx;
 
 namespace {
 
-QStringList words(const char *spaced)
-{
-    return QString::fromLatin1(spaced).split(QLatin1Char(' '), Qt::SkipEmptyParts);
-}
-
 QStringList numbers(int count)
 {
     QStringList all;
@@ -48,12 +43,8 @@ private Q_SLOTS:
     void replacing();
     void textAt_data();
     void textAt();
-    void contentStays_data();
-    void contentStays();
     void signalsAreBlocked();
     void blockedByTheHost();
-    void indexFollowsContent_data();
-    void indexFollowsContent();
     void completes_data();
     void completes();
     void completerHasItsOwnList();
@@ -114,36 +105,6 @@ void TavroCombxOptionsTest::textAt()
     QTEST(object.textAt(index), "text");
 }
 
-void TavroCombxOptionsTest::contentStays_data()
-{
-    QTest::addColumn<QVariant>("content");
-    QTest::addColumn<QStringList>("options");
-    QTest::addColumn<int>("index");
-    const QVariant plum(QStringLiteral("Plum"));
-    QTest::newRow("an option") << plum << fruits() << 3;
-    QTest::newRow("no option") << plum << words("one two") << -1;
-    QTest::newRow("other case") << QVariant(QStringLiteral("plum")) << fruits() << -1;
-    QTest::newRow("part of an option") << QVariant(QStringLiteral("Pine")) << fruits() << -1;
-    QTest::newRow("first of duplicates") << QVariant(QStringLiteral("b")) << words("a b a b") << 1;
-    QTest::newRow("none left") << plum << QStringList() << -1;
-    QTest::newRow("number") << QVariant(7) << words("6 7 8") << 1;
-    QTest::newRow("nothing") << QVariant() << fruits() << -1;
-    QTest::newRow("nothing, with an empty option") << QVariant() << QStringList{QStringLiteral("a"), QString()} << 1;
-}
-
-void TavroCombxOptionsTest::contentStays()
-{
-    QFETCH(QVariant, content);
-    QFETCH(QStringList, options);
-    TavroCombx object;
-    object.setOptionList(words("x Plum y"));
-    object.setContentData(content);
-    object.setOptionList(options);
-    QCOMPARE(object.contentData(), content);
-    QCOMPARE(object.currentText(), content.toString());
-    QTEST(object.currentIndx(), "index");
-}
-
 void TavroCombxOptionsTest::signalsAreBlocked()
 {
     TavroCombx object;
@@ -168,35 +129,6 @@ void TavroCombxOptionsTest::blockedByTheHost()
     object.setOptionList(fruits());
     object.setContentData(QStringLiteral("Plum"));
     QCOMPARE(boxOf(object)->signalsBlocked(), true);
-}
-
-// Else a combo box that is entered and left would choose the option that its text was set to from code.
-void TavroCombxOptionsTest::indexFollowsContent_data()
-{
-    QTest::addColumn<QString>("content");
-    QTest::addColumn<int>("index");
-    QTest::newRow("option") << QStringLiteral("b") << 1;
-    QTest::newRow("free text") << QStringLiteral("z") << -1;
-    QTest::newRow("nothing") << QString() << -1;
-    QTest::newRow("the current one of duplicates") << QStringLiteral("a") << 2;
-}
-
-void TavroCombxOptionsTest::indexFollowsContent()
-{
-    QFETCH(QString, content);
-    QFETCH(int, index);
-    for (const bool byText : {false, true}) {
-        TavroCombx object;
-        object.setOptionList(words("a b a c"));
-        object.setCurrentIndx(2);
-        if (byText)
-            object.setCurrentText(content);
-        else
-            object.setContentData(content);
-        QCOMPARE(object.currentText(), content);
-        QCOMPARE(object.contentData(), QVariant(content));
-        QCOMPARE(object.currentIndx(), index);
-    }
 }
 
 void TavroCombxOptionsTest::completes_data()
