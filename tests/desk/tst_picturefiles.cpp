@@ -75,6 +75,7 @@ void PictureFilesTest::initTestCase()
     const QByteArray drawing = "<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'/>";
     QVERIFY(deskforms::write(inFolder("forms/drawing.svg"), drawing));
     QVERIFY(deskforms::write(inFolder("outside.png"), bytesOf("png")));
+    QVERIFY(QFile::link(inFolder("outside.png"), inFolder("forms/link.png")));
     QFile huge(inFolder("forms/huge.png"));
     QVERIFY(huge.open(QIODevice::WriteOnly) && huge.write(bytesOf("png")) > 0 && huge.resize(64 * 1024 * 1024 + 1));
 }
@@ -84,6 +85,7 @@ void PictureFilesTest::formWithItsFiles_data()
     QTest::addColumn<QString>("file");
     QTest::newRow("beside") << QStringLiteral("logo.png");
     QTest::newRow("below") << QStringLiteral("logos/标志.jpg");
+    QTest::newRow("link in the folder") << QStringLiteral("link.png");
     QTest::newRow("way around") << QStringLiteral("./logos/..//logo.png");
 }
 
