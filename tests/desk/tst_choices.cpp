@@ -128,6 +128,11 @@ void ChoicesTest::groupsOfOneForm()
         // Grouping again keeps the choice.
         form->groupCheckBoxes();
         QCOMPARE(tickedOf(*form), QStringList({QStringLiteral("ms"), QStringLiteral("post")}));
+        // One that has left its group is no member of it any more.
+        auto &left = static_cast<TavroCheckBox &>(*form->objectWithId(QStringLiteral("ms")));
+        left.setCheckGroupId(QString());
+        form->groupCheckBoxes();
+        QCOMPARE(left.checkBx()->group(), nullptr);
     }
     QCOMPARE(tickedOf(*other), QStringList({QStringLiteral("mr"), QStringLiteral("post")}));
 }
