@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "desk/commandline.h"
 
-#include "desk/checking.h"
+#include "desk/checking/checking.h"
 #include "desk/fonts.h"
 #include "desk/form.h"
 #include "desk/formreader.h"

@@ -6,9 +6,9 @@
 #include "core/controlfactory.h"
 #include "core/tavrotext.h"
 #include "datetime/tavrodatetime.h"
-#include "desk/barcodesettings.h"
-#include "desk/datetimesettings.h"
 #include "desk/formwords.h"
+#include "desk/settings/barcodesettings.h"
+#include "desk/settings/datetimesettings.h"
 #include "graphic/tavroline.h"
 #include "graphic/tavrorect.h"
 

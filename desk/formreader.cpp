@@ -3,11 +3,11 @@
 
 #include "choice/tavrocheckbox.h"
 #include "core/tavroprototype.h"
-#include "desk/catalogue.h"
 #include "desk/formwords.h"
 #include "desk/jsonfile.h"
 #include "desk/messages.h"
 #include "desk/picturesource.h"
+#include "desk/settings/catalogue.h"
 
 #include <QFileInfo>
 #include <QHash>

@@ -2,9 +2,9 @@
 #include "desk/formwriter.h"
 
 #include "core/tavroprototype.h"
-#include "desk/catalogue.h"
 #include "desk/form.h"
 #include "desk/formwords.h"
+#include "desk/settings/catalogue.h"
 #include "desk/wholefile.h"
 
 #include <QJsonArray>

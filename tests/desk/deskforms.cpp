@@ -3,8 +3,8 @@
 
 #include "core/controlfactory.h"
 #include "core/tavroprototype.h"
-#include "desk/catalogue.h"
 #include "desk/formreader.h"
+#include "desk/settings/catalogue.h"
 
 #include <QFile>
 #include <QJsonDocument>

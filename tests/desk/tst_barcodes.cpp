@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 // Barcodes on forms: their place, their values and what is wrong with them.
 #include "barcode/tavrobarcode.h"
-#include "desk/barcodesettings.h"
-#include "desk/catalogue.h"
-#include "desk/checking.h"
+#include "desk/checking/checking.h"
 #include "desk/fonts.h"
 #include "desk/formreader.h"
 #include "desk/formwriter.h"
 #include "desk/record.h"
+#include "desk/settings/barcodesettings.h"
+#include "desk/settings/catalogue.h"
 #include "tests/desk/deskforms.h"
 #include "tests/support/stricttest.h"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "desk/catalogue.h"
+#include "desk/settings/catalogue.h"
 
 #include "cells/tavrofinancialedit.h"
 #include "cells/tavroseperateedit.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "cells/tavrofinancialedit.h"
 #include "cells/tavroseperateedit.h"
-#include "desk/checking.h"
+#include "desk/checking/checking.h"
 #include "desk/fonts.h"
 #include "tests/desk/deskforms.h"
 #include "tests/support/stricttest.h"

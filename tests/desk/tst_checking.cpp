@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "desk/checking.h"
+#include "desk/checking/checking.h"
 
 #include "core/tavrotext.h"
 #include "desk/printing.h"

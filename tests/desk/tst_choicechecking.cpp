@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "choice/tavrocheckbox.h"
-#include "desk/checking.h"
+#include "desk/checking/checking.h"
 #include "desk/record.h"
 #include "tests/desk/deskforms.h"
 #include "tests/support/stricttest.h"

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "datetime/tavrodatetime.h"
-#include "desk/checking.h"
+#include "desk/checking/checking.h"
 #include "desk/fonts.h"
 #include "desk/record.h"
 #include "tests/desk/deskforms.h"

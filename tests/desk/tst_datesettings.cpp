@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "datetime/tavrodatetime.h"
-#include "desk/catalogue.h"
 #include "desk/datetimesections.h"
 #include "desk/formreader.h"
 #include "desk/formwriter.h"
 #include "desk/record.h"
+#include "desk/settings/catalogue.h"
 #include "tests/desk/deskforms.h"
 #include "tests/support/stricttest.h"
 

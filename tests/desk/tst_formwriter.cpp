@@ -2,7 +2,7 @@
 #include "desk/formwriter.h"
 
 #include "core/tavroprototype.h"
-#include "desk/catalogue.h"
+#include "desk/settings/catalogue.h"
 #include "entry/tavroedit.h"
 #include "tests/desk/deskforms.h"
 #include "tests/support/stricttest.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "desk/checking.h"
+#include "desk/checking/checking.h"
 #include "desk/record.h"
 #include "graphic/tavropicture.h"
 #include "tests/desk/deskforms.h"

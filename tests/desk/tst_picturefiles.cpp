@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "desk/checking.h"
+#include "desk/checking/checking.h"
 #include "desk/formreader.h"
 #include "desk/formwriter.h"
 #include "desk/record.h"

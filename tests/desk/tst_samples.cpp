@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "core/tavroprototype.h"
-#include "desk/catalogue.h"
-#include "desk/checking.h"
+#include "desk/checking/checking.h"
 #include "desk/fonts.h"
 #include "desk/formreader.h"
 #include "desk/formwriter.h"
 #include "desk/record.h"
+#include "desk/settings/catalogue.h"
 #include "tests/desk/deskforms.h"
 #include "tests/support/stricttest.h"
 

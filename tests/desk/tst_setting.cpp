@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "desk/setting.h"
+#include "desk/settings/setting.h"
 #include "tests/desk/deskforms.h"
 
 #include <QTest>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "desk/cellsettings.h"
+#include "desk/settings/cellsettings.h"
 
 #include "cells/tavrofinancialedit.h"
 #include "cells/tavroseperateedit.h"
-#include "desk/commonsettings.h"
-#include "desk/settingmaker.h"
+#include "desk/settings/commonsettings.h"
+#include "desk/settings/settingmaker.h"
 
 namespace cellsettings {
 

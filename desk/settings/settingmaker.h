@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "desk/setting.h"
+#include "desk/settings/setting.h"
 
 #include <QtCore/qnamespace.h>
 #include <initializer_list>

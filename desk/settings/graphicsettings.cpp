@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "desk/graphicsettings.h"
+#include "desk/settings/graphicsettings.h"
 
-#include "desk/commonsettings.h"
-#include "desk/settingmaker.h"
+#include "desk/settings/commonsettings.h"
+#include "desk/settings/settingmaker.h"
 #include "graphic/tavroline.h"
 #include "graphic/tavropicture.h"
 #include "graphic/tavrorect.h"

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "desk/datetimesettings.h"
+#include "desk/settings/datetimesettings.h"
 
 #include "datetime/tavrodatetime.h"
-#include "desk/commonsettings.h"
 #include "desk/datetimevalues.h"
-#include "desk/settingmaker.h"
+#include "desk/settings/commonsettings.h"
+#include "desk/settings/settingmaker.h"
 
 #include <algorithm>
 

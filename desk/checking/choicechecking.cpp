@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "desk/choicechecking.h"
+#include "desk/checking/choicechecking.h"
 
 #include "choice/tavrocheckbox.h"
 #include "choice/tavrocombx.h"
-#include "desk/choicesettings.h"
+#include "desk/checking/textfit.h"
 #include "desk/messages.h"
 #include "desk/printing.h"
-#include "desk/textfit.h"
+#include "desk/settings/choicesettings.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>

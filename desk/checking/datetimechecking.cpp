@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "desk/datetimechecking.h"
+#include "desk/checking/datetimechecking.h"
 
 #include "datetime/tavrodatetime.h"
+#include "desk/checking/textfit.h"
 #include "desk/datetimesections.h"
 #include "desk/datetimevalues.h"
 #include "desk/messages.h"
 #include "desk/printing.h"
-#include "desk/textfit.h"
 
 #include <QFont>
 #include <algorithm>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "desk/entrysettings.h"
+#include "desk/settings/entrysettings.h"
 
-#include "desk/commonsettings.h"
-#include "desk/settingmaker.h"
+#include "desk/settings/commonsettings.h"
+#include "desk/settings/settingmaker.h"
 #include "entry/tavroedit.h"
 
 namespace entrysettings {

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "core/tavrotypes.h"
-#include "desk/setting.h"
+#include "desk/settings/setting.h"
 
 /// Settings of choices: check boxes and combo boxes.
 namespace choicesettings {

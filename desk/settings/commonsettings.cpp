@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "desk/commonsettings.h"
+#include "desk/settings/commonsettings.h"
 
 #include "core/tavrotext.h"
-#include "desk/settingmaker.h"
+#include "desk/settings/settingmaker.h"
 
 #include <QTransform>
 #include <algorithm>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "desk/barcodechecking.h"
+#include "desk/checking/barcodechecking.h"
 
 #include "barcode/tavrobarcode.h"
-#include "desk/barcodesettings.h"
 #include "desk/messages.h"
 #include "desk/printing.h"
+#include "desk/settings/barcodesettings.h"
 
 #include <QFontMetricsF>
 #include <QRegularExpression>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "desk/choicesettings.h"
+#include "desk/settings/choicesettings.h"
 
 #include "choice/tavrocheckbox.h"
 #include "choice/tavrocombx.h"
-#include "desk/commonsettings.h"
-#include "desk/settingmaker.h"
+#include "desk/settings/commonsettings.h"
+#include "desk/settings/settingmaker.h"
 
 #include <algorithm>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "desk/picturechecking.h"
+#include "desk/checking/picturechecking.h"
 
 #include "desk/picturevalues.h"
 #include "desk/printing.h"

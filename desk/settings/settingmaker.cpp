@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "desk/settingmaker.h"
+#include "desk/settings/settingmaker.h"
 
 namespace settingmaker {
 

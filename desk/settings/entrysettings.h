@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "desk/setting.h"
+#include "desk/settings/setting.h"
 
 /// Settings of fields with one text: edits and labels.
 namespace entrysettings {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "desk/setting.h"
+#include "desk/settings/setting.h"
 
 /// Settings of lines, rectangles, pictures and the room for tables.
 namespace graphicsettings {

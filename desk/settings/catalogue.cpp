@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "desk/catalogue.h"
+#include "desk/settings/catalogue.h"
 
-#include "desk/barcodesettings.h"
-#include "desk/cellsettings.h"
-#include "desk/choicesettings.h"
-#include "desk/datetimesettings.h"
-#include "desk/entrysettings.h"
-#include "desk/graphicsettings.h"
+#include "desk/settings/barcodesettings.h"
+#include "desk/settings/cellsettings.h"
+#include "desk/settings/choicesettings.h"
+#include "desk/settings/datetimesettings.h"
+#include "desk/settings/entrysettings.h"
+#include "desk/settings/graphicsettings.h"
 
 namespace {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "desk/checking.h"
+#include "desk/checking/checking.h"
 
 #include "barcode/tavrobarcode.h"
 #include "cells/tavrofinancialedit.h"
@@ -7,15 +7,15 @@
 #include "choice/tavrocheckbox.h"
 #include "choice/tavrocombx.h"
 #include "datetime/tavrodatetime.h"
-#include "desk/barcodechecking.h"
-#include "desk/cellchecking.h"
-#include "desk/choicechecking.h"
-#include "desk/datetimechecking.h"
+#include "desk/checking/barcodechecking.h"
+#include "desk/checking/cellchecking.h"
+#include "desk/checking/choicechecking.h"
+#include "desk/checking/datetimechecking.h"
+#include "desk/checking/picturechecking.h"
+#include "desk/checking/textfit.h"
 #include "desk/form.h"
 #include "desk/messages.h"
-#include "desk/picturechecking.h"
 #include "desk/printing.h"
-#include "desk/textfit.h"
 #include "entry/tavroedit.h"
 #include "graphic/tavropicture.h"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "desk/textfit.h"
+#include "desk/checking/textfit.h"
 
 #include "core/tavrotext.h"
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "desk/cellchecking.h"
+#include "desk/checking/cellchecking.h"
 
 #include "cells/tavrofinancialedit.h"
 #include "cells/tavroseperateedit.h"
+#include "desk/checking/textfit.h"
 #include "desk/messages.h"
 #include "desk/printing.h"
-#include "desk/textfit.h"
 
 #include <algorithm>
 #include <array>

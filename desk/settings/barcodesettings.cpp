@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "desk/barcodesettings.h"
+#include "desk/settings/barcodesettings.h"
 
 #include "barcode/tavrobarcode.h"
-#include "desk/commonsettings.h"
-#include "desk/settingmaker.h"
+#include "desk/settings/commonsettings.h"
+#include "desk/settings/settingmaker.h"
 
 #include <algorithm>
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "core/tavrotypes.h"
-#include "desk/setting.h"
+#include "desk/settings/setting.h"
 
 /// The one list of the kinds of object and their settings. Whoever reads, writes or shows settings reads this.
 namespace catalogue {
