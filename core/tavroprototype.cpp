@@ -151,7 +151,11 @@ void TavroPrototype::paint(QPainter *painter, const QStyleOptionGraphicsItem *, 
     if (m_boundingRect.width() == 0 && m_boundingRect.height() == 0)
         return;
     const QScopedValueRollback<bool> painting(m_isPainting, true);
-    painter->setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing | QPainter::SmoothPixmapTransform);
+    // Each setting goes down to the device, also where nothing changes.
+    constexpr QPainter::RenderHints smooth =
+        QPainter::Antialiasing | QPainter::TextAntialiasing | QPainter::SmoothPixmapTransform;
+    if ((painter->renderHints() & smooth) != smooth)
+        painter->setRenderHints(smooth);
     if (m_paintMode == Paint_Design)
         designPaint(painter);
     else if (m_paintMode == Paint_Input)
