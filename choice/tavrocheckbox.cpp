@@ -30,6 +30,28 @@ QRectF onWholePixels(const QRectF &rect)
         .normalized();
 }
 
+// Counts a change as long as the object lives, which the host may delete meanwhile.
+class ChangeUnderWay
+{
+public:
+    ChangeUnderWay(QObject *object, int &changes)
+        : m_object(object)
+        , m_changes(changes)
+    {
+        ++m_changes;
+    }
+    ~ChangeUnderWay()
+    {
+        if (m_object)
+            --m_changes;
+    }
+    Q_DISABLE_COPY(ChangeUnderWay)
+
+private:
+    const QPointer<QObject> m_object;
+    int &m_changes;
+};
+
 } // namespace
 
 TavroCheckBox::TavroCheckBox(QGraphicsItem *parent)
@@ -141,11 +163,8 @@ void TavroCheckBox::syncContentData()
     storeContent(static_cast<int>(m_checkBox->checkState()));
     // Before the signal, in which the host may delete the object.
     repaint();
-    const QPointer<TavroCheckBox> self(this);
-    ++m_changes;
+    const ChangeUnderWay change(this, m_changes);
     Q_EMIT contentDataChanged();
-    if (self)
-        --m_changes;
 }
 
 void TavroCheckBox::syncCheckBxState()
@@ -172,19 +191,8 @@ void TavroCheckBox::uncheck()
 
 void TavroCheckBox::drawCheckState(QPainter *painter)
 {
-    if (!m_checkBox)
-        return;
-    switch (m_checkBox->checkState()) {
-    case Qt::Unchecked:
-        drawUnchecked(painter);
-        break;
-    case Qt::PartiallyChecked:
-        drawPartiallyChecked(painter);
-        break;
-    case Qt::Checked:
-        drawChecked(painter);
-        break;
-    }
+    if (m_checkBox)
+        drawStyle(painter, m_checkStyle, m_checkBox->checkState());
 }
 
 void TavroCheckBox::drawChecked(QPainter *painter)
@@ -241,13 +249,11 @@ void TavroCheckBox::mousePressEvent(QGraphicsSceneMouseEvent *event)
 {
     const QPointer<TavroCheckBox> self(this);
     const bool isInput = paintMode() == Paint_Input;
-    ++m_changes;
     if (isInput)
         click();
     // The host may have cleared its form in answer to the new state.
     if (!self)
         return;
-    --m_changes;
     TavroPrototype::mousePressEvent(event);
     // A field that can be neither selected nor moved lets the press through, and it would tick one below it too.
     if (isInput)
@@ -258,6 +264,7 @@ void TavroCheckBox::click()
 {
     if (!m_checkBox)
         return;
+    const ChangeUnderWay change(this, m_changes);
     if (m_checkBox->isChecked())
         uncheck();
     else

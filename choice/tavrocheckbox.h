@@ -23,7 +23,7 @@ public:
 
     // operations of the base
     void renew() override;
-    /// Every number but 0 checks the box, also 1; the content keeps the number.
+    /// Every number but 0 that an int can hold checks the box, also 1; the content keeps the number.
     void setContentData(const QVariant &content) override;
     /// Sets the content too.
     void setPresetData(const QVariant &preset) override;
@@ -75,9 +75,9 @@ private:
     void click();
 
     QPointer<QCheckBox> m_checkBox;
-    /// Changes of the check box that are under way, with the slots of the host in them.
-    int m_changes = 0;
     Check_Style m_checkStyle = EmptyTick;
     QPointer<QGraphicsProxyWidget> m_widgetPrxy;
     QString m_checkGroupId;
+    /// Changes of the check box that are under way, with the slots of the host in them.
+    int m_changes = 0;
 };

@@ -21,6 +21,12 @@ public:
     }
 
     bool isShown() { return QTest::qWaitForWindowExposed(&m_view); }
+    /// Shown, and with the keyboard.
+    bool isActive()
+    {
+        m_view.activateWindow();
+        return isShown() && QTest::qWaitForWindowActive(&m_view);
+    }
     QGraphicsScene &scene() { return m_scene; }
 
     /// Adds a box of 40 px at a place.
@@ -39,6 +45,8 @@ public:
         QTest::mouseClick(m_view.viewport(), button, Qt::NoModifier, m_view.mapFromScene(place));
     }
     void click(const TavroCheckBox *box) { click(box->sceneBoundingRect().center()); }
+
+    void key(Qt::Key key) { QTest::keyClick(m_view.windowHandle(), key); }
 
     void press(const QPointF &place)
     {

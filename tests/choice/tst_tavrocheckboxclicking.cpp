@@ -17,7 +17,11 @@ private Q_SLOTS:
     void everyButton();
     void besideTheBox();
     void contentOne();
+    void triState_data();
     void triState();
+    void noLongerTriState();
+    void keys_data();
+    void keys();
     void doubleClick();
     void settingsThatDoNotLock();
     void disabled();
@@ -127,19 +131,73 @@ void TestTavroCheckBoxClicking::contentOne()
     QCOMPARE(box->contentData(), QVariant(2));
 }
 
+void TestTavroCheckBoxClicking::triState_data()
+{
+    QTest::addColumn<bool>("byState");
+    QTest::addColumn<QVector<int>>("contents");
+    QTest::newRow("set") << false << QVector<int>{1, 0, 1, 0};
+    QTest::newRow("by its state") << true << QVector<int>{0, 1, 0, 1};
+}
+
 // The click of a check box of three states goes to the partial one first, which counts as checked.
 void TestTavroCheckBoxClicking::triState()
 {
+    QFETCH(bool, byState);
+    QFETCH(QVector<int>, contents);
     BoxForm form;
     QVERIFY(form.isShown());
     ObservedBox *box = form.add({50, 50});
-    box->checkBx()->setTristate(true);
-    for (const int expected : {1, 0, 1, 0}) {
+    if (byState)
+        box->checkBx()->setCheckState(Qt::PartiallyChecked);
+    else
+        box->checkBx()->setTristate(true);
+    box->told.clear();
+    for (const int expected : qAsConst(contents)) {
         form.click(box);
         QCOMPARE(box->contentData(), QVariant(expected));
         QCOMPARE(static_cast<int>(box->state()), expected);
     }
-    QCOMPARE(box->told.size(), 4);
+    QCOMPARE(box->told.size(), contents.size());
+}
+
+void TestTavroCheckBoxClicking::noLongerTriState()
+{
+    BoxForm form;
+    QVERIFY(form.isShown());
+    ObservedBox *box = form.add({50, 50});
+    box->checkBx()->setCheckState(Qt::PartiallyChecked);
+    box->checkBx()->setTristate(false);
+    for (const int expected : {0, 2, 0}) {
+        form.click(box);
+        QCOMPARE(box->contentData(), QVariant(expected));
+    }
+}
+
+void TestTavroCheckBoxClicking::keys_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::newRow("Space") << static_cast<int>(Qt::Key_Space);
+    QTest::newRow("Enter") << static_cast<int>(Qt::Key_Return);
+    QTest::newRow("Enter of the number pad") << static_cast<int>(Qt::Key_Enter);
+}
+
+// The keyboard is the host's.
+void TestTavroCheckBoxClicking::keys()
+{
+    QFETCH(int, key);
+    for (const int content : {0, 2}) {
+        BoxForm form;
+        QVERIFY(form.isActive());
+        ObservedBox *box = form.add({50, 50});
+        box->setContentData(content);
+        box->told.clear();
+        box->setFocus();
+        QCOMPARE(form.scene().focusItem(), box);
+        form.key(static_cast<Qt::Key>(key));
+        QCOMPARE(box->contentData(), QVariant(content));
+        QCOMPARE(static_cast<int>(box->state()), content);
+        QVERIFY(box->told.isEmpty());
+    }
 }
 
 void TestTavroCheckBoxClicking::doubleClick()

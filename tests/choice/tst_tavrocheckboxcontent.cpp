@@ -4,6 +4,7 @@
 
 #include <QSignalSpy>
 #include <QTest>
+#include <climits>
 
 /// Content, preset and the state of the check box.
 class TestTavroCheckBoxContent : public StrictTest
@@ -36,6 +37,8 @@ void TestTavroCheckBoxContent::content_data()
     QTest::newRow("2") << QVariant(2) << true;
     QTest::newRow("3") << QVariant(3) << true;
     QTest::newRow("-1") << QVariant(-1) << true;
+    QTest::newRow("largest") << QVariant(INT_MAX) << true;
+    QTest::newRow("smallest") << QVariant(INT_MIN) << true;
     QTest::newRow("true") << QVariant(true) << true;
     QTest::newRow("false") << QVariant(false) << false;
     QTest::newRow("null") << QVariant() << false;

@@ -1,22 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "choice/tavrocheckbox.h"
+#include "tests/choice/boxprobes.h"
 #include "tests/choice/drawnimages.h"
 #include "tests/support/itemprobes.h"
 #include "tests/support/stricttest.h"
 
-#include <QCheckBox>
 #include <QTest>
 
-namespace {
-
-void show(TavroCheckBox &box, int style, int state)
-{
-    box.setBoundingRect(QRectF(2, 3, 24, 24));
-    box.setCheckStyle(static_cast<Check_Style>(style));
-    box.checkBx()->setCheckState(static_cast<Qt::CheckState>(state));
-}
-
-} // namespace
+using boxprobes::show;
 
 /// What check boxes draw.
 class TestTavroCheckBoxPainting : public StrictTest

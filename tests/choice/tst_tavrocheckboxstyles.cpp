@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "choice/tavrocheckbox.h"
+#include "tests/choice/boxprobes.h"
 #include "tests/choice/drawnimages.h"
 #include "tests/support/stricttest.h"
 
-#include <QCheckBox>
 #include <QTest>
 #include <array>
 #include <climits>
+
+using boxprobes::show;
 
 namespace {
 
@@ -52,13 +53,6 @@ QString nameOf(const QVector<DrawnImage> &images)
         }
     }
     return QStringLiteral("unknown");
-}
-
-void show(TavroCheckBox &box, int style, int state)
-{
-    box.setBoundingRect(QRectF(2, 3, 24, 24));
-    box.setCheckStyle(static_cast<Check_Style>(style));
-    box.checkBx()->setCheckState(static_cast<Qt::CheckState>(state));
 }
 
 } // namespace
