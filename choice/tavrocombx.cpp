@@ -1,20 +1,19 @@
 // SPDX-License-Identifier: MIT
 #include "choice/tavrocombx.h"
 
+#include "choice/comboxpopups.h"
 #include "choice/symbols.h"
 #include "core/paintersaver.h"
 #include "core/pixels.h"
 
 #include <QAbstractItemView>
-#include <QApplication>
 #include <QComboBox>
 #include <QCompleter>
-#include <QFocusEvent>
 #include <QGraphicsProxyWidget>
 #include <QLineEdit>
 #include <QListView>
-#include <QScreen>
 #include <QSignalBlocker>
+#include <utility>
 
 namespace {
 
@@ -48,9 +47,8 @@ TavroCombx::TavroCombx(QGraphicsItem *parent)
     connect(m_comboBox, QOverload<int>::of(&QComboBox::activated), this, &TavroCombx::onCurrentIndexChanged);
     // A hidden object does not hear that the pointer leaves.
     connect(this, &TavroCombx::visibleChanged, this, [this] {
-        m_isHovered = m_isHovered && isVisible();
-        if (m_isLockedByHover && !m_isHovered)
-            onHoverEvent(false);
+        if (m_isHovered && isEnabled())
+            onHoverEvent(isVisible());
     });
 }
 
@@ -75,11 +73,7 @@ void TavroCombx::setUpComboBox()
     auto *view = new QListView;
     m_comboBox->setView(view);
     view->setStyleSheet(QStringLiteral("QAbstractItemView::item {height: 1.1em;}"));
-    // Embedded with the combo box, the list would be an item of the scene, covered by objects above this one and cut
-    // off at the edge of the view.
-    m_list = view->window();
-    m_list->setWindowFlag(Qt::BypassGraphicsProxyWidget);
-    m_list->installEventFilter(this);
+    m_popups = new ComboxPopups(m_comboBox);
     m_comboBox->setStyleSheet(styleSheetWithBorder(QStringLiteral("#1ba39c")));
 }
 
@@ -99,10 +93,9 @@ void TavroCombx::setPaintMode(const Paint_Mode &mode)
 {
     TavroText::setPaintMode(mode);
     showHideCombx();
-    // A pointer that stays where it is, enters and leaves nothing.
-    const bool isUnderPointer = m_isHovered && isUnderMouse();
-    if (isUnderPointer || m_isLockedByHover)
-        onHoverEvent(isUnderPointer);
+    // A pointer that stays where it is, enters and leaves nothing. A disabled object keeps its combo box disabled.
+    if (m_isHovered && isEnabled())
+        onHoverEvent(isUnderMouse());
 }
 
 void TavroCombx::designPaint(QPainter *painter)
@@ -128,8 +121,10 @@ void TavroCombx::setFont(const QFont &font)
 
 QStringList TavroCombx::optionList() const
 {
+    if (!m_comboBox)
+        return {};
     QStringList options;
-    for (int i = 0; m_comboBox && i < m_comboBox->count(); ++i)
+    for (int i = 0; i < m_comboBox->count(); ++i)
         options.append(m_comboBox->itemText(i));
     return options;
 }
@@ -142,17 +137,16 @@ void TavroCombx::setOptionList(const QStringList &options)
     auto completer = std::make_unique<QCompleter>(options);
     completer->setFilterMode(Qt::MatchContains);
     completer->popup()->setWindowFlag(Qt::FramelessWindowHint);
-    completer->popup()->installEventFilter(this);
+    m_popups->setCompletions(completer->popup());
 
     const QSignalBlocker blocker(m_comboBox);
     m_comboBox->clear();
     m_comboBox->insertItems(0, options);
     m_comboBox->setCompleter(completer.get());
-    m_completer.swap(completer);
     // The one before may be at work: its popup passes the keys on to which the host answers with another list.
-    if (completer) {
-        completer->setParent(m_comboBox);
-        completer.release()->deleteLater();
+    if (auto before = std::exchange(m_completer, std::move(completer))) {
+        before->setParent(m_comboBox);
+        before.release()->deleteLater();
     }
     // A filled list shows its first option, which nobody chose and the content does not hold.
     syncComboxText();
@@ -194,7 +188,9 @@ void TavroCombx::setCurrentText(const QString &text)
     if (!m_comboBox)
         return;
     m_comboBox->setCurrentText(text);
-    syncComboxText();
+    // With the combo box's signals blocked the content has not heard of the text, and would take it back.
+    if (contentData().toString() == text)
+        syncComboxText();
 }
 
 QGraphicsProxyWidget *TavroCombx::widgetPrxy() const
@@ -257,12 +253,12 @@ void TavroCombx::showHideCombx()
 
 void TavroCombx::onHoverEvent(bool hovered)
 {
+    m_isHovered = hovered;
     const bool isReadOnlyInput = paintMode() == Paint_Input && isReadOnly();
     // What was disabled is enabled again, also where it has ceased to be read-only meanwhile.
-    if (!m_comboBox || !(isReadOnlyInput || m_isLockedByHover))
-        return;
-    m_isLockedByHover = isReadOnlyInput && hovered;
-    m_comboBox->setEnabled(!m_isLockedByHover);
+    const bool wasLocked = std::exchange(m_isLockedByHover, isReadOnlyInput && hovered);
+    if (m_comboBox && (isReadOnlyInput || wasLocked))
+        m_comboBox->setEnabled(!m_isLockedByHover);
 }
 
 void TavroCombx::onCurrentIndexChanged(int index)
@@ -287,51 +283,14 @@ void TavroCombx::drawCombxFeature(QPainter *painter)
     symbols::draw(painter, square, symbols::Triangle);
 }
 
-bool TavroCombx::eventFilter(QObject *watched, QEvent *event)
-{
-    const QEvent::Type type = event->type();
-    if (watched == m_list) {
-        if (type == QEvent::Show)
-            moveListOntoScreen();
-    } else if (watched == m_keyboardOwner) {
-        // Completions leave the keyboard to their widget, but know nothing of the view that it is in. If the view lost
-        // it to them, the combo box would report a choice before the text is typed to its end, and they would close at
-        // each key.
-        if (type == QEvent::FocusOut && static_cast<QFocusEvent *>(event)->reason() == Qt::PopupFocusReason)
-            return true;
-    } else if (type == QEvent::Show && QApplication::focusWidget()) {
-        m_keyboardOwner = QApplication::focusWidget();
-        m_keyboardOwner->installEventFilter(this);
-    } else if (type == QEvent::Hide && m_keyboardOwner) {
-        m_keyboardOwner->removeEventFilter(this);
-    }
-    return TavroText::eventFilter(watched, event);
-}
-
-// Embedded combo boxes open their lists without a look at the edges of the screen.
-void TavroCombx::moveListOntoScreen()
-{
-    const QPoint corner = m_comboBox->mapToGlobal({0, 0});
-    const QScreen *screen = QGuiApplication::screenAt(m_comboBox->mapToGlobal(m_comboBox->rect().center()));
-    const QRect area = (screen ? screen : QGuiApplication::primaryScreen())->availableGeometry();
-    QRect place = m_list->geometry();
-    if (place.bottom() > area.bottom())
-        place.moveBottom(qMin(corner.y() - 1, area.bottom()));
-    place.moveLeft(qMax(area.left(), qMin(place.left(), area.right() + 1 - place.width())));
-    place.moveTop(qMax(area.top(), place.top()));
-    m_list->move(place.topLeft());
-}
-
 void TavroCombx::hoverEnterEvent(QGraphicsSceneHoverEvent *event)
 {
     TavroText::hoverEnterEvent(event);
-    m_isHovered = true;
     onHoverEvent(true);
 }
 
 void TavroCombx::hoverLeaveEvent(QGraphicsSceneHoverEvent *event)
 {
     TavroText::hoverLeaveEvent(event);
-    m_isHovered = false;
     onHoverEvent(false);
 }

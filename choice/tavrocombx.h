@@ -7,6 +7,7 @@
 #include <QStringList>
 #include <memory>
 
+class ComboxPopups;
 class QComboBox;
 class QCompleter;
 class QGraphicsProxyWidget;
@@ -80,21 +81,17 @@ Q_SIGNALS:
     void currentIndexChanged(int index, const QString &table, const QString &column);
 
 protected:
-    /// Of the list, of the completer's popup, and of the view behind it.
-    bool eventFilter(QObject *watched, QEvent *event) override;
     void hoverEnterEvent(QGraphicsSceneHoverEvent *event) override;
     void hoverLeaveEvent(QGraphicsSceneHoverEvent *event) override;
 
 private:
     void setUpComboBox();
-    void moveListOntoScreen();
 
     QPointer<QComboBox> m_comboBox;
     QPointer<QGraphicsProxyWidget> m_widgetPrxy;
     bool m_isOptionsFromDB = true;
     bool m_isHovered = false;
     bool m_isLockedByHover = false;
-    QPointer<QWidget> m_list;
-    QPointer<QWidget> m_keyboardOwner;
+    ComboxPopups *m_popups = nullptr; // as long as the combo box
     std::unique_ptr<QCompleter> m_completer;
 };

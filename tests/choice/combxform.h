@@ -114,3 +114,12 @@ private:
     QGraphicsScene m_scene;
     QGraphicsView m_view;
 };
+
+namespace combx {
+
+/// What a row does with the form.
+using Step = void (*)(CombxForm &);
+
+} // namespace combx
+
+Q_DECLARE_METATYPE(combx::Step)

@@ -36,7 +36,11 @@ QVector<Setting<C>> settings()
     };
 }
 
+using FontStep = void (*)(TavroCombx &);
+
 } // namespace
+
+Q_DECLARE_METATYPE(FontStep)
 
 class TavroCombxTest : public StrictTest
 {
@@ -136,9 +140,8 @@ void TavroCombxTest::metaObject()
 
 void TavroCombxTest::fontsFollow_data()
 {
-    using Step = void (*)(TavroCombx &);
-    QTest::addColumn<void *>("step");
-    const auto row = [](const char *name, Step step) { QTest::newRow(name) << reinterpret_cast<void *>(step); };
+    QTest::addColumn<FontStep>("step");
+    const auto row = [](const char *name, FontStep step) { QTest::newRow(name) << step; };
     row("family", [](TavroCombx &object) { object.setFontFamily(QStringLiteral("DejaVu Serif")); });
     row("size", [](TavroCombx &object) { object.setFontPtSz(20); });
     row("bold", [](TavroCombx &object) { object.setIsBold(true); });
@@ -157,7 +160,7 @@ void TavroCombxTest::fontsFollow_data()
 
 void TavroCombxTest::fontsFollow()
 {
-    QFETCH(void *, step);
+    QFETCH(FontStep, step);
     TavroCombx object;
     object.setBoundingRect({0, 0, 200, 30});
     object.setPhyBoundingRectWidth(50);
@@ -165,7 +168,7 @@ void TavroCombxTest::fontsFollow()
     object.setContentData(QStringLiteral("Fig"));
     const QFont before = object.font();
     QVERIFY(haveFont(object, before));
-    reinterpret_cast<void (*)(TavroCombx &)>(step)(object);
+    step(object);
     QVERIFY(object.font() != before);
     QVERIFY(haveFont(object, object.font()));
     QVERIFY(!haveFont(object, before));

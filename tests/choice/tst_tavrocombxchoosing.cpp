@@ -8,8 +8,6 @@ using namespace combx;
 
 namespace {
 
-using Step = void (*)(CombxForm &);
-
 // The completions are open from the first key on.
 void typeAndSee(CombxForm &form, const char *text)
 {
@@ -28,8 +26,6 @@ void openByKey(CombxForm &form)
 }
 
 } // namespace
-
-Q_DECLARE_METATYPE(Step)
 
 class TavroCombxChoosingTest : public StrictTest
 {

@@ -16,7 +16,9 @@ private Q_SLOTS:
     void contentToText_data();
     void contentToText();
     void emptyTextFollowsContent();
+    void unheardText();
     void textToContent();
+    void fontFitsBeforeTheSignal();
     void indexToContent();
     void renew_data();
     void renew();
@@ -63,12 +65,28 @@ void TavroCombxContentTest::emptyTextFollowsContent()
 {
     TavroCombx object;
     boxOf(object)->blockSignals(true);
-    object.setCurrentText(QStringLiteral("unheard"));
+    boxOf(object)->setCurrentText(QStringLiteral("unheard"));
     boxOf(object)->blockSignals(false);
+    QCOMPARE(object.currentText(), QStringLiteral("unheard"));
     QVERIFY(!object.contentData().isValid());
     object.syncComboxText();
     QCOMPARE(object.currentText(), QString());
     QVERIFY(!object.contentData().isValid());
+}
+
+// A host that blocks the signals of the combo box keeps the content, and gets its text all the same.
+void TavroCombxContentTest::unheardText()
+{
+    TavroCombx object;
+    object.setOptionList(fruits());
+    object.setContentData(QStringLiteral("Plum"));
+    boxOf(object)->blockSignals(true);
+    object.setCurrentText(QStringLiteral("Fig"));
+    boxOf(object)->blockSignals(false);
+    QCOMPARE(object.currentText(), QStringLiteral("Fig"));
+    QCOMPARE(object.contentData(), QVariant(QStringLiteral("Plum")));
+    object.syncContentData();
+    QCOMPARE(object.contentData(), QVariant(QStringLiteral("Fig")));
 }
 
 void TavroCombxContentTest::textToContent()
@@ -89,6 +107,25 @@ void TavroCombxContentTest::textToContent()
     }
     QCOMPARE(choices.count(), 0);
     QCOMPARE(object.optionList(), fruits());
+}
+
+void TavroCombxContentTest::fontFitsBeforeTheSignal()
+{
+    TavroCombx object;
+    object.setTextFillingRule(Fill_Shrink);
+    object.setBoundingRect({0, 0, 100, 30});
+    const QFont whole = object.font();
+    QVector<QFont> seen;
+    bool haveParts = false;
+    connect(&object, &TavroCombx::contentDataChanged, this, [&] {
+        seen.append(object.font());
+        haveParts = haveFont(object, object.font());
+    });
+    boxOf(object)->setCurrentText(QString(60, QLatin1Char('m')));
+    QCOMPARE(seen.size(), 1);
+    QVERIFY(seen.first().pixelSize() < whole.pixelSize());
+    QCOMPARE(seen.first(), object.font());
+    QVERIFY(haveParts);
 }
 
 void TavroCombxContentTest::indexToContent()

@@ -8,8 +8,6 @@ using namespace combx;
 
 namespace {
 
-using Step = void (*)(CombxForm &);
-
 void enter(CombxForm &form)
 {
     probes::hover(form.scene(), *form.object, QEvent::GraphicsSceneHoverEnter);
@@ -22,8 +20,6 @@ void leave(CombxForm &form)
 
 } // namespace
 
-Q_DECLARE_METATYPE(Step)
-
 class TavroCombxHoverTest : public StrictTest
 {
     Q_OBJECT
@@ -34,8 +30,11 @@ private Q_SLOTS:
     void unlocks_data();
     void unlocks();
     void disabledObjectStaysDisabled();
+    void disabledUnderThePointer();
+    void disabledByTheHost();
     void raises();
     void pointer();
+    void keyboardOfAReadOnlyField();
     void modeChangesUnderThePointer();
 };
 
@@ -135,6 +134,41 @@ void TavroCombxHoverTest::disabledObjectStaysDisabled()
     QCOMPARE(form.box()->isEnabled(), true);
 }
 
+// A disabled object does not hear that the pointer leaves.
+void TavroCombxHoverTest::disabledUnderThePointer()
+{
+    for (const bool isLockedBefore : {false, true}) {
+        CombxForm form;
+        form.object->setIsReadOnly(isLockedBefore);
+        enter(form);
+        QCOMPARE(form.box()->isEnabled(), !isLockedBefore);
+        form.object->setIsReadOnly(true);
+        form.object->setObjEnabled(false);
+        form.object->setPaintMode(Paint_Input);
+        QCOMPARE(form.box()->isEnabled(), false);
+        form.object->setVisible(false);
+        form.object->setVisible(true);
+        QCOMPARE(form.box()->isEnabled(), false);
+        leave(form);
+        form.object->setObjEnabled(true);
+        form.object->setPaintMode(Paint_Input);
+        QCOMPARE(form.box()->isEnabled(), true);
+        QCOMPARE(form.object->widgetPrxy()->isEnabled(), true);
+    }
+}
+
+// The end of a hover enables the combo box of a read-only object, whoever disabled it.
+void TavroCombxHoverTest::disabledByTheHost()
+{
+    CombxForm form;
+    form.object->setIsReadOnly(true);
+    form.box()->setEnabled(false);
+    form.object->setPaintMode(Paint_Input);
+    QCOMPARE(form.box()->isEnabled(), false);
+    form.object->onHoverEvent(false);
+    QCOMPARE(form.box()->isEnabled(), true);
+}
+
 void TavroCombxHoverTest::raises()
 {
     CombxForm form;
@@ -162,6 +196,18 @@ void TavroCombxHoverTest::pointer()
         QCursor::setPos(form.onScreen({-20, -20}));
         QTRY_COMPARE(form.box()->isEnabled(), true);
     }
+}
+
+// Nothing but the pointer locks it.
+void TavroCombxHoverTest::keyboardOfAReadOnlyField()
+{
+    CombxForm form;
+    form.object->setIsReadOnly(true);
+    form.object->setPaintMode(Paint_Input);
+    QVERIFY(form.isReady());
+    form.object->setFocus();
+    form.type(QStringLiteral("x"));
+    QCOMPARE(form.object->contentData(), QVariant(QStringLiteral("x")));
 }
 
 void TavroCombxHoverTest::modeChangesUnderThePointer()

@@ -10,8 +10,6 @@ using namespace combx;
 
 namespace {
 
-using Step = void (*)(CombxForm &);
-
 void chooseByPointer(CombxForm &form)
 {
     QVERIFY(form.openList());
@@ -47,8 +45,6 @@ void typeFree(CombxForm &form)
 }
 
 } // namespace
-
-Q_DECLARE_METATYPE(Step)
 
 class TavroCombxLifetimesTest : public StrictTest
 {

@@ -24,11 +24,7 @@ bool isSeenWhole(QWidget &list)
     return onScreen(list.geometry()) == list.grab().toImage().convertToFormat(QImage::Format_RGB32);
 }
 
-using Step = void (*)(CombxForm &);
-
 } // namespace
-
-Q_DECLARE_METATYPE(Step)
 
 class TavroCombxPopupTest : public StrictTest
 {
@@ -42,6 +38,8 @@ private Q_SLOTS:
     void isSeenAtTheEdgeOfTheScreen();
     void completionsAreSeen_data();
     void completionsAreSeen();
+    void keyboardAfterCompletions_data();
+    void keyboardAfterCompletions();
     void closes_data();
     void closes();
     void modeChangesWhileOpen_data();
@@ -169,6 +167,36 @@ void TavroCombxPopupTest::completionsAreSeen()
     QVERIFY(!form.completions()->graphicsProxyWidget());
     QVERIFY(QGuiApplication::primaryScreen()->geometry().contains(form.completions()->geometry()));
     QTRY_VERIFY(isSeenWhole(*form.completions()));
+}
+
+void TavroCombxPopupTest::keyboardAfterCompletions_data()
+{
+    QTest::addColumn<Step>("close");
+    QTest::newRow("closed") << Step([](CombxForm &form) { form.key(Qt::Key_Escape); });
+    QTest::newRow("options replaced") << Step([](CombxForm &form) {
+        const QPointer<QWidget> before(form.completions());
+        form.object->setOptionList({QStringLiteral("one")});
+        QTRY_VERIFY(!before);
+    });
+}
+
+// The view keeps the keyboard from completions alone, and no longer than they are open.
+void TavroCombxPopupTest::keyboardAfterCompletions()
+{
+    QFETCH(Step, close);
+    CombxForm form;
+    QVERIFY(form.isReady());
+    const auto losesItToAPopup = [&form] {
+        QFocusEvent out(QEvent::FocusOut, Qt::PopupFocusReason);
+        QCoreApplication::sendEvent(&form.view(), &out);
+        return !form.scene().hasFocus();
+    };
+    form.focus();
+    form.type(QStringLiteral("l"));
+    QVERIFY(form.completions()->isVisible());
+    QVERIFY(!losesItToAPopup());
+    close(form);
+    QVERIFY(losesItToAPopup());
 }
 
 void TavroCombxPopupTest::closes_data()
