@@ -16,10 +16,15 @@ double bounded(double length)
 
 } // namespace
 
+QPoint rounded(const QPointF &point)
+{
+    return {qRound(bounded(point.x())), qRound(bounded(point.y()))};
+}
+
 QRect rounded(const QRectF &rect)
 {
-    return {qRound(bounded(rect.x())), qRound(bounded(rect.y())), qRound(bounded(rect.width())),
-            qRound(bounded(rect.height()))};
+    const QPoint size = rounded(QPointF(rect.width(), rect.height()));
+    return {rounded(rect.topLeft()), QSize(size.x(), size.y())};
 }
 
 int truncated(double length)

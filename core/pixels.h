@@ -3,9 +3,11 @@
 
 #include <QRect>
 
-/// Rectangles of objects on whole pixels, for widgets and images, which stand on nothing else.
+/// Points and rectangles of objects on whole pixels, for widgets and images, which stand on nothing else.
 namespace pixels {
 
+/// Rounded, halves upwards, with the bounds of rectangles.
+QPoint rounded(const QPointF &point);
 /// Place and size rounded each on its own, halves upwards, and bounded to what a widget can have; 0 for what is no
 /// number.
 QRect rounded(const QRectF &rect);

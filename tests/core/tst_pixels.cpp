@@ -4,7 +4,7 @@
 #include <QTest>
 #include <limits>
 
-/// Rectangles on whole pixels.
+/// Points and rectangles on whole pixels.
 class PixelsTest : public QObject
 {
     Q_OBJECT
@@ -12,6 +12,8 @@ class PixelsTest : public QObject
 private Q_SLOTS:
     void rounded_data();
     void rounded();
+    void roundedPoint_data();
+    void roundedPoint();
     void truncated_data();
     void truncated();
     void edgesRounded_data();
@@ -71,6 +73,23 @@ void PixelsTest::rounded()
 {
     QFETCH(const QRectF, rect);
     QTEST(pixels::rounded(rect), "whole");
+}
+
+void PixelsTest::roundedPoint_data()
+{
+    QTest::addColumn<QPointF>("point");
+    QTest::addColumn<QPoint>("whole");
+    QTest::newRow("whole") << QPointF(10, -20) << QPoint(10, -20);
+    QTest::newRow("near the half") << QPointF(1.4, 2.6) << QPoint(1, 3);
+    QTest::newRow("halves go up") << QPointF(2.5, -2.5) << QPoint(3, -2);
+    QTest::newRow("above the widest") << QPointF(1e10, -1e10) << QPoint(16777215, -16777215);
+    QTest::newRow("not a number") << QPointF(std::numeric_limits<double>::quiet_NaN(), 1) << QPoint(0, 1);
+}
+
+void PixelsTest::roundedPoint()
+{
+    QFETCH(const QPointF, point);
+    QTEST(pixels::rounded(point), "whole");
 }
 
 void PixelsTest::truncated_data()
