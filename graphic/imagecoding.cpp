@@ -15,8 +15,10 @@ namespace {
 // Each element of a drawing takes some 300 bytes, each byte of a path some 12.
 constexpr int MostDrawingBytes = 1 << 25;
 constexpr int MostDrawingElements = 1 << 20;
+// What counts as too big without a number of its own.
+constexpr qint64 TooManyPixels = MostPixels + 1;
 
-qint64 pixels(const QSize &size)
+qint64 pixelCount(const QSize &size)
 {
     return qint64(size.width()) * size.height();
 }
@@ -31,11 +33,18 @@ bool isIcon(const QByteArray &format)
     return format == "ico" || format == "cur";
 }
 
-// A height or width of 0 is taken from the first frame by some formats, whatever it is.
-bool isBounded(const QSize &size)
+// Of a GIF the whole screen is allocated. Its side counts even where Qt finds it out of proportion to the frame and
+// answers that of the frame instead.
+QSize announcedSize(QImageReader *reader)
 {
-    const bool hasNothing = size.isValid() && size.isEmpty();
-    return !hasNothing && qMax(size.width(), size.height()) <= MostPixelsOfSide && pixels(size) <= MostPixels;
+    constexpr int headerBytes = 10;
+    constexpr int placeOfScreen = 6;
+    const bool isGif = reader->format() == "gif";
+    const QByteArray header = isGif ? reader->device()->peek(headerBytes) : QByteArray();
+    if (header.size() < headerBytes)
+        return reader->size();
+    const char *screen = header.constData() + placeOfScreen;
+    return reader->size().expandedTo({qFromLittleEndian<quint16>(screen), qFromLittleEndian<quint16>(screen + 2)});
 }
 
 // The first entry of an icon file may be a whole PNG, whose size the list of entries does not tell.
@@ -60,37 +69,44 @@ qint64 pixelsOfLink(const QString &link)
     const QLatin1String marker("base64,");
     const int data = link.lastIndexOf(marker);
     if (!link.startsWith(QLatin1String("data")) || data < 0)
-        return MostPixels + 1;
+        return TooManyPixels;
     QByteArray bytes = QByteArray::fromBase64(link.mid(data + marker.size()).toLatin1());
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::ReadOnly);
     QImageReader reader(&buffer);
     const QByteArray format = reader.format();
-    const QSize size = reader.size();
-    return isDrawing(format) || isIcon(format) || !size.isValid() || !isBounded(size) ? MostPixels + 1 : pixels(size);
+    const QSize size = announcedSize(&reader);
+    const bool isKnown = size.isValid() && !isDrawing(format) && !isIcon(format);
+    return isKnown && isBounded(size) ? pixelCount(size) : TooManyPixels;
 }
 
+// A processing instruction may name a style sheet, which would be read from the disk.
 bool isDrawingBounded(const QByteArray &drawing)
 {
     QXmlStreamReader xml(drawing);
     int elements = 0;
     qint64 sum = 0;
-    while (!xml.atEnd() && elements <= MostDrawingElements && sum <= MostPixels) {
-        if (xml.readNext() != QXmlStreamReader::StartElement)
+    while (!xml.atEnd()) {
+        const QXmlStreamReader::TokenType token = xml.readNext();
+        if (token == QXmlStreamReader::ProcessingInstruction)
+            return false;
+        if (token != QXmlStreamReader::StartElement)
             continue;
         ++elements;
         if (xml.name() == QLatin1String("image"))
             sum += pixelsOfLink(xml.attributes().value(QLatin1String("xlink:href")).toString());
+        if (elements > MostDrawingElements || sum > MostPixels)
+            return false;
     }
-    return !xml.hasError() && elements <= MostDrawingElements && sum <= MostPixels;
+    return !xml.hasError();
 }
 
 QImage readBounded(QImageReader *reader)
 {
-    if (!isBounded(reader->size()))
+    if (!isBounded(announcedSize(reader)))
         return {};
     const QImage image = reader->read();
-    // Some formats do not tell their size before.
+    // All formats of Qt's own plug-ins tell their size before; those of others need not.
     return isBounded(image.size()) ? image : QImage();
 }
 
@@ -118,6 +134,11 @@ QImage readFirst(QImageReader *reader)
 }
 
 } // namespace
+
+bool isBounded(const QSize &size)
+{
+    return qMax(size.width(), size.height()) <= MostPixelsOfSide && pixelCount(size) <= MostPixels;
+}
 
 QImage decoded(const QByteArray &bytes)
 {

@@ -3,6 +3,7 @@
 
 #include <QBuffer>
 #include <QByteArray>
+#include <QByteArrayList>
 #include <QImage>
 #include <QImageWriter>
 #include <QtEndian>
@@ -10,6 +11,10 @@
 
 /// Bytes of images in every format that can be read, as a host or a stranger may hand them over.
 namespace samples {
+
+/// Names of the formats, as Qt calls them.
+inline const QByteArrayList Formats{"bmp", "gif", "ico", "cur",  "jpeg", "pbm", "pgm",
+                                    "ppm", "png", "svg", "svgz", "xbm",  "xpm"};
 
 /// One colour, or black where the format has no others.
 inline QImage image(const QSize &size = QSize(16, 8), const QColor &color = Qt::red)
@@ -135,6 +140,16 @@ inline QByteArray jpegHeader(const QSize &size, bool progressive)
                              QByteArray("\x03\x01\x22\0\x02\x11\x01\x03\x11\x01", 10);
     return QByteArray("\xFF\xD8\xFF\xE0\0\x10JFIF\0\x01\x01\0\0\x01\0\x01\0\0", 20) + frame +
            QByteArray("\xFF\xDA\0\x0C\x03\x01\0\x02\x11\x03\x11\0\x3F\0", 14) + QByteArray(100, '\0');
+}
+
+/// The JPEG with a note of the camera that it was held a quarter turn to the right.
+inline QByteArray heldOnItsSide(QByteArray jpeg)
+{
+    const QByteArray orientation = big(quint16(0x112)) + big(quint16(3)) + big(quint32(1)) + big(quint32(6 << 16));
+    const QByteArray directory = big(quint32(8)) + big(quint16(1)) + orientation + big(quint32(0));
+    const QByteArray note = QByteArray("Exif\0\0MM\0\x2A", 10) + directory;
+    constexpr int start = 2;
+    return jpeg.insert(start, "\xFF\xE1" + big(quint16(note.size() + 2)) + note);
 }
 
 /// An icon (kind 1) or a pointer (kind 2) with one entry.

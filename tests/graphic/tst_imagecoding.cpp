@@ -21,9 +21,6 @@ bool isRed(QRgb pixel)
     return qRed(pixel) > 250 && qGreen(pixel) < 5 && qBlue(pixel) < 5;
 }
 
-const QByteArrayList Formats{"bmp", "gif", "ico", "cur",  "jpeg", "pbm", "pgm",
-                             "ppm", "png", "svg", "svgz", "xbm",  "xpm"};
-
 } // namespace
 
 /// Images from bytes and files, and into bytes.
@@ -38,6 +35,7 @@ private Q_SLOTS:
     void noImage_data();
     void noImage();
     void firstOfAnAnimation();
+    void photographsAreNotTurned();
     void noFile_data();
     void noFile();
     void formatIsFoundFromTheContent();
@@ -47,20 +45,22 @@ private Q_SLOTS:
     void drawings_data();
     void drawings();
     void drawingsReadNoFiles();
+    void drawingsReadNoStyleSheets_data();
+    void drawingsReadNoStyleSheets();
     void pngBytes();
     void pngKeepsEveryPixel();
 };
 
 void TestImageCoding::everyFormatIsAvailable()
 {
-    for (const QByteArray &format : Formats)
+    for (const QByteArray &format : samples::Formats)
         QVERIFY2(QImageReader::supportedImageFormats().contains(format), format);
 }
 
 void TestImageCoding::format_data()
 {
     QTest::addColumn<QByteArray>("bytes");
-    for (const QByteArray &format : Formats)
+    for (const QByteArray &format : samples::Formats)
         QTest::newRow(format) << samples::of(format);
 }
 
@@ -107,6 +107,14 @@ void TestImageCoding::firstOfAnAnimation()
     buffer.setData(both);
     QCOMPARE(QImageReader(&buffer).imageCount(), 2);
     QCOMPARE(imagecoding::decoded(both).pixel(0, 0), qRgb(255, 0, 0));
+}
+
+void TestImageCoding::photographsAreNotTurned()
+{
+    QByteArray bytes = samples::heldOnItsSide(samples::of("jpeg"));
+    QBuffer buffer(&bytes);
+    QCOMPARE(QImageReader(&buffer).transformation(), QImageIOHandler::TransformationRotate90);
+    QCOMPARE(imagecoding::decoded(bytes).size(), QSize(16, 8));
 }
 
 void TestImageCoding::noFile_data()
@@ -197,6 +205,7 @@ void TestImageCoding::drawings_data()
     QTest::newRow("drawing inside") << linkedData("svg+xml", samples::svg()) << true;
     QTest::newRow("compressed drawing inside") << linkedData("svg+xml", samples::of("svgz")) << true;
     QTest::newRow("icon inside") << linkedData("x-icon", samples::of("ico")) << true;
+    QTest::newRow("no image inside") << linkedData("png", "no image") << true;
     QTest::newRow("no link") << QByteArray("<image width=\"16\" height=\"8\"/>") << true;
     QTest::newRow("a file") << samples::linkedImage("/usr/share/stamp.png") << true;
     QTest::newRow("a file named like data") << samples::linkedImage("data/stamp.png") << true;
@@ -225,6 +234,34 @@ void TestImageCoding::drawingsReadNoFiles()
         const QByteArray drawing = samples::svg("width=\"16\" height=\"8\"", samples::linkedImage(link));
         QVERIFY(imagecoding::decoded(drawing).isNull());
     }
+}
+
+void TestImageCoding::drawingsReadNoStyleSheets_data()
+{
+    QTest::addColumn<QByteArray>("link");
+    QTest::addColumn<bool>("isZipped");
+    for (const bool isZipped : {false, true}) {
+        const char *kind = isZipped ? "svgz" : "svg";
+        QTest::addRow("%s, path", kind) << QByteArray("%1") << isZipped;
+        QTest::addRow("%s, address", kind) << QByteArray("file://%1") << isZipped;
+    }
+}
+
+// The style sheet would paint the drawing blue.
+void TestImageCoding::drawingsReadNoStyleSheets()
+{
+    QFETCH(QByteArray, link);
+    QFETCH(bool, isZipped);
+    QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("colours.css"));
+    write(path, "rect { fill: #0000ff }");
+    link.replace("%1", path.toUtf8());
+    const QByteArray drawing = "<?xml-stylesheet type=\"text/css\" href=\"" + link + "\"?>" + samples::svg();
+    const QByteArray bytes = isZipped ? samples::zipped(drawing) : drawing;
+    QVERIFY(imagecoding::decoded(bytes).isNull());
+    const QString file = folder.filePath(QStringLiteral("drawing.svg"));
+    write(file, bytes);
+    QVERIFY(imagecoding::loaded(file).isNull());
 }
 
 void TestImageCoding::pngBytes()
