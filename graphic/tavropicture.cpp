@@ -61,8 +61,8 @@ QImage TavroPicture::image() const
 
 void TavroPicture::setImage(const QImage &image)
 {
-    m_image = image;
-    TavroPrototype::setContentData(imageToByteArray(&image));
+    m_image = imagecoding::isBounded(image.size()) ? image : QImage();
+    TavroPrototype::setContentData(imageToByteArray(&m_image));
     scaleImageRect();
     setIsModified(true);
 }
@@ -79,7 +79,7 @@ QString TavroPicture::imgPath() const
 
 void TavroPicture::setImgPath(const QString &path)
 {
-    storeSetting(m_imgPath, path);
+    m_imgPath = path;
     setImage(imagecoding::loaded(path));
 }
 
@@ -121,15 +121,17 @@ QRect TavroPicture::imageRect() const
 
 void TavroPicture::scaleImageRect()
 {
-    const QRectF rect = boundingRect();
-    const QRect whole = pixels::rounded(rect);
-    if (!m_image.isNull() && m_fillMode == Picture_Fit) {
-        m_imageRect = QRect(whole.topLeft(), scaledInto(whole.size(), m_image.size()));
-        m_imageRect.moveCenter(pixels::rounded(QRectF(rect.center(), QSizeF())).topLeft());
-    } else if (!m_image.isNull() && m_fillMode == Picture_Stretch) {
-        m_imageRect = whole;
-    } else if (!m_image.isNull() && m_fillMode == Picture_Actual) {
-        m_imageRect = QRect(whole.topLeft(), m_image.size());
+    if (!m_image.isNull()) {
+        const QRectF rect = boundingRect();
+        const QRect whole = pixels::rounded(rect);
+        if (m_fillMode == Picture_Fit) {
+            m_imageRect = QRect(whole.topLeft(), scaledInto(whole.size(), m_image.size()));
+            m_imageRect.moveCenter(pixels::rounded(rect.center()));
+        } else if (m_fillMode == Picture_Stretch) {
+            m_imageRect = whole;
+        } else if (m_fillMode == Picture_Actual) {
+            m_imageRect = QRect(whole.topLeft(), m_image.size());
+        }
     }
     repaint();
 }

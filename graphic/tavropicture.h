@@ -9,7 +9,7 @@
 
 /// Picture: a logo, a stamp, a scanned signature. The content is the image as PNG bytes, whatever format it was given
 /// in, so that a form that stores its values stores the picture. What cannot be loaded, and what has more than 8192 ×
-/// 8192 pixels, is a null image with an empty content. A new object counts as not modified.
+/// 8192 pixels or a side of over a million, is a null image with an empty content. A new object counts as not modified.
 class TAVRO_EXPORT TavroPicture : public TavroPrototype
 {
     Q_OBJECT
@@ -28,7 +28,8 @@ public:
     void printPaint(QPainter *painter) override;
 
     QImage image() const;
-    /// Also the content. Marks modified, emits contentDataChanged().
+    /// Also the content. An image with too many pixels is taken for a null one. Marks modified, emits
+    /// contentDataChanged().
     void setImage(const QImage &image);
     /// PNG; empty for a null image and for a null pointer.
     QByteArray imageToByteArray(const QImage *image) const;

@@ -19,6 +19,9 @@ private Q_SLOTS:
     void valueIsEncodedAnew();
     void bothSignals();
     void signalOfAnImage();
+    void signalOfAFile();
+    void imagesOfManyPixels_data();
+    void imagesOfManyPixels();
     void whatIsNoImage_data();
     void whatIsNoImage();
     void bytesOfImages();
@@ -83,6 +86,52 @@ void TestTavroPictureContent::signalOfAnImage()
     picture.setImage({});
     QCOMPARE(changed.count(), 3);
     QCOMPARE(picture.contentData(), QVariant(QByteArray()));
+}
+
+void TestTavroPictureContent::signalOfAFile()
+{
+    QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("logo.png"));
+    QVERIFY(samples::image().save(path));
+    TavroPicture picture;
+    int count = 0;
+    connect(&picture, &TavroPrototype::contentDataChanged, &picture, [&] {
+        ++count;
+        QCOMPARE(picture.imgPath(), path);
+        QCOMPARE(picture.image().size(), QSize(16, 8));
+        QVERIFY(!picture.isModified());
+    });
+    picture.setImgPath(path);
+    QCOMPARE(count, 1);
+    QVERIFY(picture.isModified());
+}
+
+void TestTavroPictureContent::imagesOfManyPixels_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<bool>("isTooBig");
+    QTest::newRow("longest side") << QSize(1000000, 1) << false;
+    QTest::newRow("longer by one") << QSize(1000001, 1) << true;
+    QTest::newRow("most pixels") << QSize(8192, 8192) << false;
+    QTest::newRow("a column more") << QSize(8193, 8192) << true;
+}
+
+// What is stored can be loaded again.
+void TestTavroPictureContent::imagesOfManyPixels()
+{
+    QFETCH(QSize, size);
+    QFETCH(bool, isTooBig);
+    QImage image(size, QImage::Format_Mono);
+    image.fill(1);
+    TavroPicture picture;
+    picture.setImage(samples::image());
+    picture.setIsModified(false);
+    QSignalSpy changed(&picture, &TavroPrototype::contentDataChanged);
+    picture.setImage(image);
+    QCOMPARE(picture.image().size(), isTooBig ? QSize(0, 0) : size);
+    QCOMPARE(picture.contentData().toByteArray().isEmpty(), isTooBig);
+    QCOMPARE(changed.count(), 1);
+    QVERIFY(picture.isModified());
 }
 
 void TestTavroPictureContent::whatIsNoImage_data()
