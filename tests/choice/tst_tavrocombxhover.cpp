@@ -203,6 +203,8 @@ void TavroCombxHoverTest::keyboardOfAReadOnlyField()
 {
     CombxForm form;
     form.object->setIsReadOnly(true);
+    enter(form);
+    leave(form);
     form.object->setPaintMode(Paint_Input);
     QVERIFY(form.isReady());
     form.object->setFocus();
