@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "core/stacking.h"
+#include "tests/core/stackingmodel.h"
 
 #include <QTest>
-#include <algorithm>
 
 using Values = QVector<qreal>;
 using stacking::Move;
-
-Q_DECLARE_METATYPE(stacking::Move)
 
 /// Redistribution of the z values of a group of overlapping objects.
 class TestStacking : public QObject
@@ -17,7 +15,7 @@ class TestStacking : public QObject
 private Q_SLOTS:
     void restacked_data();
     void restacked();
-    void noValueIsInvented_data();
+    void noValueIsInvented_data() { stackingmodel::addMoves(); }
     void noValueIsInvented();
 };
 
@@ -69,28 +67,15 @@ void TestStacking::restacked()
     QTEST(stacking::restacked(before, moved, move), "after");
 }
 
-void TestStacking::noValueIsInvented_data()
-{
-    QTest::addColumn<Move>("move");
-
-    QTest::newRow("to the front") << Move::ToFront;
-    QTest::newRow("to the back") << Move::ToBack;
-    QTest::newRow("up") << Move::Up;
-    QTest::newRow("down") << Move::Down;
-}
-
 // Repeated use hands the same values round for ever.
 void TestStacking::noValueIsInvented()
 {
     QFETCH(Move, move);
     Values values{4, -1, 9, 2.5, 2.5};
-    Values sorted = values;
-    std::sort(sorted.begin(), sorted.end());
+    const Values sorted = stackingmodel::sorted(values);
     for (int i = 0; i < 20; ++i) {
         values = stacking::restacked(values, i % values.size(), move);
-        Values now = values;
-        std::sort(now.begin(), now.end());
-        QCOMPARE(now, sorted);
+        QCOMPARE(stackingmodel::sorted(values), sorted);
     }
 }
 

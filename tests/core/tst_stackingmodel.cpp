@@ -1,60 +1,19 @@
 // SPDX-License-Identifier: MIT
 #include "core/stacking.h"
+#include "tests/core/stackingmodel.h"
 
 #include <QTest>
 #include <algorithm>
 #include <random>
 
 using stacking::Move;
-
-Q_DECLARE_METATYPE(stacking::Move)
+using stackingmodel::addMoves;
+using stackingmodel::dealtAnew;
+using stackingmodel::sorted;
 
 namespace {
 
 constexpr int GroupsPerRow = 500;
-
-struct Member
-{
-    qreal z;
-    int number;
-};
-
-bool isLower(const Member &a, const Member &b)
-{
-    return a.z < b.z;
-}
-
-QVector<qreal> sorted(QVector<qreal> values)
-{
-    std::sort(values.begin(), values.end());
-    return values;
-}
-
-// The pile as sheets in the hand: take the moved one out, put it in where it belongs, and deal the values from below.
-QVector<qreal> dealtAnew(const QVector<qreal> &zValues, int moved, Move move)
-{
-    QList<Member> pile;
-    for (int i = 0; i < zValues.size(); ++i)
-        pile.append({zValues.at(i), i});
-    std::sort(pile.begin(), pile.end(), isLower);
-    int place = 0;
-    while (pile.at(place).number != moved)
-        ++place;
-    const Member taken = pile.takeAt(place);
-    if (move == Move::ToFront)
-        pile.append(taken);
-    else if (move == Move::ToBack)
-        pile.prepend(taken);
-    else if (move == Move::Up)
-        pile.insert(place == pile.size() ? place : place + 1, taken);
-    else
-        pile.insert(place == 0 ? 0 : place - 1, taken);
-    const QVector<qreal> values = sorted(zValues);
-    QVector<qreal> result(zValues.size());
-    for (int i = 0; i < pile.size(); ++i)
-        result[pile.at(i).number] = values.at(i);
-    return result;
-}
 
 // New values of all but the moved member, from the lowest to the topmost of the old pile. Members that were alike may
 // stand in either order.
@@ -99,20 +58,7 @@ private Q_SLOTS:
     void differentValues();
     void valuesAlike_data() { addMoves(); }
     void valuesAlike();
-
-private:
-    static void addMoves();
 };
-
-void TestStackingModel::addMoves()
-{
-    QTest::addColumn<Move>("move");
-
-    QTest::newRow("to the front") << Move::ToFront;
-    QTest::newRow("to the back") << Move::ToBack;
-    QTest::newRow("up") << Move::Up;
-    QTest::newRow("down") << Move::Down;
-}
 
 void TestStackingModel::differentValues()
 {

@@ -40,7 +40,10 @@ QVector<TavroPrototype *> addPile(QGraphicsScene &scene)
 
 } // namespace
 
+using Index = QGraphicsScene::ItemIndexMethod;
+
 Q_DECLARE_METATYPE(Operation)
+Q_DECLARE_METATYPE(Index)
 
 /// The four stacking operations among the objects of a scene.
 class TestStackingOrder : public StrictTest
@@ -52,6 +55,10 @@ private Q_SLOTS:
     void pile();
     void aloneOnTheForm();
     void objectsElsewhereKeepTheirValues();
+    void sharedEdges_data();
+    void sharedEdges();
+    void hiddenObjects_data();
+    void hiddenObjects();
     void foreignItemsAreNoMembers();
     void handlesAndFramesAreNoMembers();
     void equalValuesStay();
@@ -113,6 +120,56 @@ void TestStackingOrder::objectsElsewhereKeepTheirValues()
     QCOMPARE(zValues({left, middle, right}), QVector<qreal>({2, 1, 3}));
     middle->bringObjToFront();
     QCOMPARE(zValues({left, middle, right}), QVector<qreal>({1, 3, 2}));
+}
+
+void TestStackingOrder::sharedEdges_data()
+{
+    QTest::addColumn<QRectF>("neighbour");
+    QTest::addColumn<bool>("isMember");
+    QTest::newRow("edge") << QRectF(100, 0, 100, 100) << false;
+    QTest::newRow("lower edge") << QRectF(0, 100, 100, 100) << false;
+    QTest::newRow("corner") << QRectF(100, 100, 100, 100) << false;
+    QTest::newRow("a strip") << QRectF(99.5, 0, 100, 100) << true;
+    QTest::newRow("edge from within") << QRectF(50, 0, 50, 100) << true;
+}
+
+void TestStackingOrder::sharedEdges()
+{
+    QFETCH(QRectF, neighbour);
+    QFETCH(bool, isMember);
+    for (const Index index : {QGraphicsScene::BspTreeIndex, QGraphicsScene::NoIndex}) {
+        QGraphicsScene scene;
+        scene.setItemIndexMethod(index);
+        const QVector<TavroPrototype *> both{addObject(scene, QRectF(0, 0, 100, 100), 1),
+                                             addObject(scene, neighbour, 2)};
+        both.first()->bringObjToFront();
+        QCOMPARE(zValues(both), isMember ? QVector<qreal>({2, 1}) : QVector<qreal>({1, 2}));
+    }
+}
+
+void TestStackingOrder::hiddenObjects_data()
+{
+    QTest::addColumn<Index>("index");
+    QTest::addColumn<bool>("areMembers");
+    QTest::newRow("tree index") << QGraphicsScene::BspTreeIndex << false;
+    QTest::newRow("no index") << QGraphicsScene::NoIndex << true;
+}
+
+// The index of a scene does not find what is hidden.
+void TestStackingOrder::hiddenObjects()
+{
+    QFETCH(Index, index);
+    QFETCH(bool, areMembers);
+    for (const bool isIndexBuilt : {false, true}) {
+        QGraphicsScene scene;
+        scene.setItemIndexMethod(index);
+        const QVector<TavroPrototype *> objects = addPile(scene);
+        if (isIndexBuilt)
+            QCoreApplication::processEvents();
+        objects.at(1)->hide();
+        objects.first()->bringObjToFront();
+        QCOMPARE(zValues(objects), areMembers ? QVector<qreal>({4, 1, 2, 3}) : QVector<qreal>({4, 2, 1, 3}));
+    }
 }
 
 void TestStackingOrder::foreignItemsAreNoMembers()

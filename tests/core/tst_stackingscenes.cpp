@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "core/tavroprototype.h"
+#include "tests/core/stackingmodel.h"
 #include "tests/support/itemprobes.h"
 #include "tests/support/stricttest.h"
 
@@ -9,10 +10,9 @@
 #include <cmath>
 #include <random>
 
-using Operation = void (TavroPrototype::*)();
+using stacking::Move;
 using Index = QGraphicsScene::ItemIndexMethod;
 
-Q_DECLARE_METATYPE(Operation)
 Q_DECLARE_METATYPE(Index)
 
 namespace {
@@ -140,27 +140,28 @@ QVector<qreal> zValuesOfOthers(const Form &form)
     return values;
 }
 
-// The values of a group from below, the moved one taken out and put in anew.
-QVector<qreal> restackedByHand(const Form &form, int moved, Operation operation)
+void carryOut(TavroPrototype *object, Move move)
+{
+    if (move == Move::ToFront)
+        object->bringObjToFront();
+    else if (move == Move::ToBack)
+        object->bringObjToBack();
+    else if (move == Move::Up)
+        object->raiseObjUp();
+    else
+        object->lowerObjDown();
+}
+
+QVector<qreal> restackedByHand(const Form &form, int moved, Move move)
 {
     QVector<qreal> result = form.zValues();
-    QVector<int> pile = form.overlappedBy(moved);
-    std::sort(pile.begin(), pile.end(), [&result](int a, int b) { return result.at(a) < result.at(b); });
+    const QVector<int> group = form.overlappedBy(moved);
     QVector<qreal> values;
-    for (const int member : qAsConst(pile))
+    for (const int member : group)
         values.append(result.at(member));
-    const int last = pile.size() - 1;
-    const int from = pile.indexOf(moved);
-    int to = std::max(from - 1, 0);
-    if (operation == &TavroPrototype::bringObjToFront)
-        to = last;
-    else if (operation == &TavroPrototype::bringObjToBack)
-        to = 0;
-    else if (operation == &TavroPrototype::raiseObjUp)
-        to = std::min(from + 1, last);
-    pile.insert(to, pile.takeAt(from));
-    for (int i = 0; i <= last; ++i)
-        result[pile.at(i)] = values.at(i);
+    values = stackingmodel::dealtAnew(values, group.indexOf(moved), move);
+    for (int i = 0; i < group.size(); ++i)
+        result[group.at(i)] = values.at(i);
     return result;
 }
 
@@ -174,40 +175,25 @@ class TestStackingScenes : public StrictTest
 private Q_SLOTS:
     void randomForms_data();
     void randomForms();
-    void negativeSizes_data() { addOperations(); }
+    void negativeSizes_data() { stackingmodel::addMoves(); }
     void negativeSizes();
 
 private:
-    static void addOperations();
-    static void restackAll(unsigned seed, Operation operation, Index index, bool hasNegativeSizes);
+    static void restackAll(unsigned seed, Move move, Index index, bool hasNegativeSizes);
 };
 
 void TestStackingScenes::randomForms_data()
 {
-    QTest::addColumn<Operation>("operation");
+    QTest::addColumn<Move>("move");
     QTest::addColumn<Index>("index");
 
-    const auto rows = [](const char *name, Operation operation) {
-        QTest::addRow("%s, tree index", name) << operation << QGraphicsScene::BspTreeIndex;
-        QTest::addRow("%s, no index", name) << operation << QGraphicsScene::NoIndex;
-    };
-    rows("front", &TavroPrototype::bringObjToFront);
-    rows("back", &TavroPrototype::bringObjToBack);
-    rows("up", &TavroPrototype::raiseObjUp);
-    rows("down", &TavroPrototype::lowerObjDown);
+    for (const stackingmodel::NamedMove &row : stackingmodel::Moves) {
+        QTest::addRow("%s, tree index", row.name) << row.move << QGraphicsScene::BspTreeIndex;
+        QTest::addRow("%s, no index", row.name) << row.move << QGraphicsScene::NoIndex;
+    }
 }
 
-void TestStackingScenes::addOperations()
-{
-    QTest::addColumn<Operation>("operation");
-
-    QTest::newRow("front") << Operation(&TavroPrototype::bringObjToFront);
-    QTest::newRow("back") << Operation(&TavroPrototype::bringObjToBack);
-    QTest::newRow("up") << Operation(&TavroPrototype::raiseObjUp);
-    QTest::newRow("down") << Operation(&TavroPrototype::lowerObjDown);
-}
-
-void TestStackingScenes::restackAll(unsigned seed, Operation operation, Index index, bool hasNegativeSizes)
+void TestStackingScenes::restackAll(unsigned seed, Move move, Index index, bool hasNegativeSizes)
 {
     Random random(seed);
     for (int i = 0; i < SceneCount; ++i) {
@@ -220,8 +206,8 @@ void TestStackingScenes::restackAll(unsigned seed, Operation operation, Index in
             QCoreApplication::processEvents();
         const QVector<qreal> others = zValuesOfOthers(form);
         for (int moved = 0; moved < ObjectCount; ++moved) {
-            const QVector<qreal> wanted = restackedByHand(form, moved, operation);
-            (form.objects.at(moved)->*operation)();
+            const QVector<qreal> wanted = restackedByHand(form, moved, move);
+            carryOut(form.objects.at(moved), move);
             QCOMPARE(form.zValues(), wanted);
         }
         QCOMPARE(zValuesOfOthers(form), others);
@@ -230,16 +216,16 @@ void TestStackingScenes::restackAll(unsigned seed, Operation operation, Index in
 
 void TestStackingScenes::randomForms()
 {
-    QFETCH(Operation, operation);
+    QFETCH(Move, move);
     QFETCH(Index, index);
-    restackAll(14, operation, index, false);
+    restackAll(14, move, index, false);
 }
 
 // Hosts whose objects run in any direction have a scene without an index.
 void TestStackingScenes::negativeSizes()
 {
-    QFETCH(Operation, operation);
-    restackAll(15, operation, QGraphicsScene::NoIndex, true);
+    QFETCH(Move, move);
+    restackAll(15, move, QGraphicsScene::NoIndex, true);
 }
 
 QTEST_MAIN(TestStackingScenes)
