@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "desk/picturesource.h"
 
+#include "graphic/tavropicture.h"
+
 #include <QBuffer>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QImage>
 #include <QImageReader>
 #include <QJsonObject>
 
@@ -14,9 +15,6 @@ namespace picturesource {
 namespace {
 
 constexpr char FileKey[] = "file";
-
-// More is a null image in the library, so that a small file cannot ask for all memory.
-constexpr qint64 MostPixels = qint64(8192) * 8192;
 
 // An SVG is no picture here: it can name other files, anywhere.
 bool isKnownFormat(const QByteArray &format)
@@ -31,34 +29,21 @@ Result failure(const QString &expectation)
     return result;
 }
 
-QByteArray pngOf(const QImage &image)
-{
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    image.save(&buffer, "PNG");
-    return bytes;
-}
-
 Result fromBytes(const QByteArray &bytes)
 {
-    const QString anyPicture = QStringLiteral("a PNG, JPEG, BMP or GIF picture");
     QBuffer buffer;
     buffer.setData(bytes);
     buffer.open(QIODevice::ReadOnly);
-    QImageReader reader(&buffer);
-    const QByteArray format = reader.format();
-    if (!isKnownFormat(format))
-        return failure(anyPicture);
-    const QSize size = reader.size();
-    if (qint64(size.width()) * size.height() > MostPixels)
-        return failure(QStringLiteral("a picture of at most %1 pixels, such as 8192 x 8192").arg(MostPixels));
-    const QImage image = reader.read();
-    if (image.isNull())
-        return failure(anyPicture);
+    const QByteArray format = QImageReader(&buffer).format();
+    // Whatever is no picture for an object on the form is none here.
+    TavroPicture picture;
+    if (isKnownFormat(format))
+        picture.setContentData(bytes);
+    if (picture.image().isNull())
+        return failure(QStringLiteral("a PNG, JPEG, BMP or GIF picture of at most 8192 x 8192 pixels"));
     Result result;
     // PNG stays as it is: encoding it anew gives other bytes with another version of the encoder.
-    result.png = format == "png" ? bytes : pngOf(image);
+    result.png = format == "png" ? bytes : picture.contentData().toByteArray();
     return result;
 }
 

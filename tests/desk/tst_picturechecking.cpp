@@ -73,7 +73,8 @@ void PictureCheckingTest::records_data()
         QTest::newRow(name) << QByteArray(value) << QString::fromUtf8(problem);
     };
     add("no base64", "\"stamp.png\"", "expected a picture in base64, found \"stamp.png\"");
-    add("no picture", "\"aGVsbG8=\"", "expected a PNG, JPEG, BMP or GIF picture, found \"aGVsbG8=\"");
+    add("no picture", "\"aGVsbG8=\"",
+        "expected a PNG, JPEG, BMP or GIF picture of at most 8192 x 8192 pixels, found \"aGVsbG8=\"");
     add("no file", R"({"file":"no such\n.png"})", R"(expected a file that exists, found "no such\n.png")");
     add("file elsewhere", R"({"file":"../a.png"})",
         "expected a relative path that stays in the folder of this file, found \"../a.png\"");

@@ -4,6 +4,7 @@
 #include "desk/formwriter.h"
 #include "desk/record.h"
 #include "tests/desk/pictureforms.h"
+#include "tests/graphic/imagesamples.h"
 #include "tests/support/stricttest.h"
 
 #include <QDir>
@@ -18,7 +19,7 @@ using pictureforms::pictureOf;
 
 namespace {
 
-const char *AnyPicture = "a PNG, JPEG, BMP or GIF picture";
+const char *AnyPicture = "a PNG, JPEG, BMP or GIF picture of at most 8192 x 8192 pixels";
 const char *AnySource = "a picture in base64, or an object with the name of its \"file\" alone";
 
 void addRefusedFiles(const std::function<void(const QString &name, const QString &expected)> &add)
@@ -139,13 +140,16 @@ void PictureFilesTest::refuses_data()
     // Some bytes that announce 30000 x 30000 pixels.
     const QString giant =
         QStringLiteral("iVBORw0KGgoAAAANSUhEUgAAdTAAAHUwAQAAAABOXMUXAAAADElEQVR42mNgoD0AAABkAAG4me+Z");
-    add(QStringLiteral("giant"), giant,
-        QStringLiteral("preset: expected a picture of at most 67108864 pixels, such as 8192 x 8192, found \"%1...\"")
-            .arg(giant.left(60)));
+    const auto addTooBig = [&add, &picture](const char *row, const QString &text) {
+        add(QLatin1String(row), text, picture.arg(QStringLiteral("\"%1...\"").arg(text.left(60))));
+    };
+    addTooBig("giant", giant);
     QByteArray bitmap = bytesOf("bmp", {1, 1});
     bitmap.replace(18, 8, QByteArray::fromHex("3075000030750000"));
-    add(QStringLiteral("giant bitmap"), base64(bitmap),
-        picture.arg(QStringLiteral("\"%1...\"").arg(base64(bitmap).left(60))));
+    addTooBig("giant bitmap", base64(bitmap));
+    addTooBig("screen out of proportion to its frame", base64(samples::gif({16000, 16000}, {1, 1}, 2)));
+    const QImage longer(1000001, 1, QImage::Format_Mono);
+    addTooBig("longer than can be stored", base64(samples::written("bmp", longer)));
 }
 
 void PictureFilesTest::refuses()
