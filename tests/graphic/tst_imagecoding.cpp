@@ -45,6 +45,7 @@ private Q_SLOTS:
     void drawings_data();
     void drawings();
     void drawingsReadNoFiles();
+    void drawingsMayDeclareWhatTheyAre();
     void drawingsReadNoStyleSheets_data();
     void drawingsReadNoStyleSheets();
     void pngBytes();
@@ -234,6 +235,14 @@ void TestImageCoding::drawingsReadNoFiles()
         const QByteArray drawing = samples::svg("width=\"16\" height=\"8\"", samples::linkedImage(link));
         QVERIFY(imagecoding::decoded(drawing).isNull());
     }
+}
+
+void TestImageCoding::drawingsMayDeclareWhatTheyAre()
+{
+    const QByteArray drawing =
+        "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<!DOCTYPE svg>\n<!-- a stamp -->" + samples::svg();
+    QCOMPARE(imagecoding::decoded(drawing).size(), QSize(16, 8));
+    QCOMPARE(imagecoding::decoded(samples::zipped(drawing)).size(), QSize(16, 8));
 }
 
 void TestImageCoding::drawingsReadNoStyleSheets_data()
