@@ -303,9 +303,6 @@ void TestTextEdit::focusOutHidesTheCursor()
 
 void TestTextEdit::contextMenuOpens()
 {
-    // The offscreen platform says so of every popup.
-    expectWarning(QStringLiteral("^This plugin does not support raise\\(\\)$"));
-    expectWarning(QStringLiteral("^This plugin does not support grabbing the keyboard$"));
     TextEdit editor;
     editor.show();
     QVERIFY(QTest::qWaitForWindowExposed(&editor));
