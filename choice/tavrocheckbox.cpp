@@ -61,6 +61,8 @@ TavroCheckBox::TavroCheckBox(QGraphicsItem *parent)
 {
     setObjType(Obj_CheckBox);
     setFlag(ItemClipsToShape, false);
+    // Else the proxy would show it now, and the platform would make a window for it.
+    m_checkBox->hide();
     m_widgetPrxy->setWidget(m_checkBox);
     m_widgetPrxy->setVisible(false);
     connect(m_checkBox, &QCheckBox::stateChanged, this, &TavroCheckBox::syncContentData);

@@ -35,6 +35,8 @@ TavroEdit::TavroEdit(QGraphicsItem *parent)
     , m_widgetPrxy(new QGraphicsProxyWidget(this))
 {
     setObjType(Obj_Edit);
+    // A proxy shows a widget that was not hidden, which costs a window of the platform, for most fields in vain.
+    m_editor->hide();
     m_widgetPrxy->setWidget(m_editor);
     // Taking the widget, the proxy takes its minimum size too, which is higher than most fields.
     m_widgetPrxy->setMinimumSize(0, 0);
