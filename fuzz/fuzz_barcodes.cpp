@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "barcode/zintwrapper.h"
 
-#include <QGuiApplication>
 #include <QImage>
 #include <QPainter>
 #include <algorithm>
@@ -137,23 +136,7 @@ void paint(ZintWrapper *barcode, const QSizeF &size)
         require(hasOnlyGround(image));
 }
 
-void ignoreMessage(QtMsgType, const QMessageLogContext &, const QString &) {}
-
 } // namespace
-
-// The offscreen platform plug-in of Qt 5.15 never deletes its screen.
-extern "C" const char *__lsan_default_suppressions()
-{
-    return "leak:libqoffscreen.so";
-}
-
-extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
-{
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    qInstallMessageHandler(ignoreMessage);
-    static QGuiApplication application(*argc, *argv);
-    return 0;
-}
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *bytes, size_t size)
 {

@@ -2,8 +2,6 @@
 #include "graphic/gunzip.h"
 #include "graphic/imagecoding.h"
 
-#include <QGuiApplication>
-
 // Any bytes as an image, and as a compressed file.
 
 namespace {
@@ -14,23 +12,7 @@ void require(bool holds)
         __builtin_trap();
 }
 
-void ignoreMessage(QtMsgType, const QMessageLogContext &, const QString &) {}
-
 } // namespace
-
-// The offscreen platform plug-in of Qt 5.15 never deletes its screen.
-extern "C" const char *__lsan_default_suppressions()
-{
-    return "leak:libqoffscreen.so";
-}
-
-extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
-{
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    qInstallMessageHandler(ignoreMessage);
-    static QGuiApplication application(*argc, *argv);
-    return 0;
-}
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
